@@ -1,0 +1,134 @@
+#include <unistd.h>
+
+#include <cstdio>
+#include <iostream>
+
+#include "cli/cli.h"
+#include "core/error.h"
+#include "core/form.h"
+#include "core/text.h"
+#include "reference/payers.h"
+#include "reference/rates.h"
+
+namespace cli {
+
+std::map<std::string, Command>& commands() {
+    static std::map<std::string, Command> c;
+    return c;
+}
+
+static bool affirmative(core::Buttons b) { return true; }
+
+core::Answer CliDialogs::msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) {
+    std::cerr << "[" << title << "] " << text << std::endl;
+    if (icon == core::Icon::Critical || icon == core::Icon::Exclamation) ++errorBoxes;
+    if (buttons == core::Buttons::OK) return core::Answer::OK;
+    bool yesNo = buttons == core::Buttons::YesNo || buttons == core::Buttons::YesNoCancel;
+    core::Answer yes = yesNo ? core::Answer::Yes : buttons == core::Buttons::AbortRetryIgnore ? core::Answer::Retry
+                       : buttons == core::Buttons::RetryCancel                                 ? core::Answer::Retry
+                                                                                                : core::Answer::OK;
+    core::Answer no = yesNo ? core::Answer::No : buttons == core::Buttons::AbortRetryIgnore ? core::Answer::Abort
+                                                                                           : core::Answer::Cancel;
+    (void)affirmative;
+    if (answer) return *answer ? yes : no;
+    if (::isatty(0)) {
+        std::cerr << (yesNo ? "Tak/Nie [t/n]: " : "OK/Anuluj [t/n]: ") << std::flush;
+        std::string line;
+        std::getline(std::cin, line);
+        std::string a = core::LCase(core::Trim(line));
+        return (a == "t" || a == "tak" || a == "y" || a == "yes" || a == "ok") ? yes : no;
+    }
+    throw Unanswered("pytanie bez odpowiedzi (użyj --yes lub --no): [" + title + "] " + text);
+}
+
+std::optional<std::string> CliDialogs::inputBox(const std::string& prompt, const std::string& title, const std::string& def) {
+    std::cerr << "[" << title << "] " << prompt << std::endl;
+    if (::isatty(0)) {
+        std::string line;
+        if (!std::getline(std::cin, line)) return std::nullopt;
+        return line.empty() ? def : line;
+    }
+    throw Unanswered("pytanie bez odpowiedzi: [" + title + "] " + prompt);
+}
+
+void CliDialogs::showForm(core::Form& form) {
+    form.guarded([&] { form.Load(); });
+}
+
+void Context::openSession() {
+    session.WorkDir = std::filesystem::current_path();
+    std::filesystem::path folder = dataDir.empty() ? session.WorkDir : std::filesystem::path(dataDir);
+    if (dataDir.empty()) {
+        session.takeInstalka(core::Instalka::read(folder));
+        folder = session.katalog();
+    }
+    session.takeInstalka(core::Instalka::read(folder));
+    if (!dataDir.empty()) session.Katalog = std::filesystem::absolute(dataDir).string();
+    if (!payer.empty()) session.SkrotPlatnika = payer;
+    if (!date.empty()) session.DataListy = date;
+    session.OkresListy = core::Mid(session.DataListy, 4, 2) + core::Right(session.DataListy, 2);
+    reference::selectPayer(session);
+    reference::loadRates(session);
+}
+
+}  // namespace cli
+
+static void usage(std::ostream& out) {
+    out << "Użycie: pensja-cli [--data FOLDER] [--payer SKRÓT] [--date dd-mm-rrrr] [--yes|--no] POLECENIE [ARGUMENTY]\n\n"
+           "Polecenia:\n";
+    for (auto& [name, c] : cli::commands()) out << "  " << c.usage << "\n      " << c.summary << "\n";
+}
+
+int main(int argc, char** argv) {
+    cli::Context ctx;
+    std::string command;
+    int i = 1;
+    auto value = [&](const std::string& opt) -> std::string {
+        if (i + 1 >= argc) throw cli::Usage("brak wartości opcji " + opt);
+        return argv[++i];
+    };
+    try {
+        for (; i < argc; ++i) {
+            std::string a = argv[i];
+            if (!command.empty()) {
+                ctx.args.push_back(a);
+            } else if (a == "--data") {
+                ctx.dataDir = value(a);
+            } else if (a == "--payer") {
+                ctx.payer = value(a);
+            } else if (a == "--date") {
+                ctx.date = value(a);
+            } else if (a == "--yes") {
+                ctx.dialogs.answer = true;
+            } else if (a == "--no") {
+                ctx.dialogs.answer = false;
+            } else if (a == "--help" || a == "-h") {
+                usage(std::cout);
+                return 0;
+            } else if (!a.empty() && a[0] == '-') {
+                throw cli::Usage("nieznana opcja " + a);
+            } else {
+                command = a;
+            }
+        }
+        if (command.empty()) throw cli::Usage("nie podano polecenia");
+        auto it = cli::commands().find(command);
+        if (it == cli::commands().end()) throw cli::Usage("nieznane polecenie " + command);
+        int rc = it->second.run(ctx);
+        std::cout.flush();
+        return rc;
+    } catch (const cli::Usage& e) {
+        std::cerr << "pensja-cli: " << e.what() << "\n\n";
+        usage(std::cerr);
+        return 2;
+    } catch (const cli::Unanswered& e) {
+        std::cerr << "pensja-cli: " << e.what() << "\n";
+        return 1;
+    } catch (const core::Error& e) {
+        std::cerr << "pensja-cli:" << core::errorReport(e) << "\n";
+        return 1;
+    } catch (const std::exception& e) {
+        std::cerr << "pensja-cli: " << e.what() << "\n";
+        return 1;
+    }
+}

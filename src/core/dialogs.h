@@ -1,0 +1,36 @@
+// How the engine talks to the operator: message boxes, input boxes, opening another screen
+// and letting the screen repaint during long work. The Qt program, the command line and the
+// tests each give their own implementation.
+#pragma once
+#include <optional>
+#include <string>
+
+namespace core {
+
+class Form;
+
+enum class Buttons { OK, OKCancel, AbortRetryIgnore, YesNoCancel, YesNo, RetryCancel };
+enum class Icon { None, Critical, Question, Exclamation, Information };
+// The answers carry the numbers of the classic message box.
+enum class Answer { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
+
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual Answer msgBox(const std::string& text, Buttons buttons = Buttons::OK, Icon icon = Icon::None,
+                          const std::string& title = {}) = 0;
+    // The typed text, or nothing when the operator cancelled.
+    virtual std::optional<std::string> inputBox(const std::string& prompt, const std::string& title = {},
+                                                const std::string& def = {}) = 0;
+    // Shows a screen modally and returns when it is closed.
+    virtual void showForm(Form& form) = 0;
+    // Lets a screen busy with long work show its controls' new state (a progress bar).
+    virtual void doEvents(Form& form) {}
+};
+
+// A short alias for the common box with OK only.
+inline void MsgBox(Dialogs& d, const std::string& text, const std::string& title = {}, Icon icon = Icon::None) {
+    d.msgBox(text, Buttons::OK, icon, title);
+}
+
+}  // namespace core

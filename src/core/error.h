@@ -1,0 +1,38 @@
+// Errors of the engine: the error numbers of the classic run-time and the step that failed.
+#pragma once
+#include <stdexcept>
+#include <string>
+
+namespace core {
+
+namespace err {
+constexpr int InvalidCall = 5;          // a value the routine cannot take (a character CP1250 lacks)
+constexpr int Overflow = 6;
+constexpr int SubscriptOutOfRange = 9;
+constexpr int TypeMismatch = 13;
+constexpr int DeviceTimeout = 25;
+constexpr int OutOfPaper = 27;
+constexpr int BadFileName = 52;
+constexpr int FileNotFound = 53;
+constexpr int InputPastEnd = 62;
+constexpr int PathFileAccess = 75;
+constexpr int PathNotFound = 76;
+}  // namespace err
+
+// A failed operation: `Number` is the classic error number, `Step` names where it happened
+// (the file and the record/item, or the routine), `Detail` says what was wrong in plain words.
+class Error : public std::runtime_error {
+public:
+    Error(int number, std::string step, std::string detail = {});
+    int Number;
+    std::string Step;
+    std::string Detail;
+};
+
+// The words of the error report. Most screens say " Błąd nr N w linii S"; some screens use
+// their own spelling, which is part of their text.
+enum class ReportWords { Linii, NrLini, Linni };
+std::string errorReport(const Error& e, ReportWords words = ReportWords::Linii);
+std::string errorReport(int number, const std::string& step, ReportWords words = ReportWords::Linii);
+
+}  // namespace core

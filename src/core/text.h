@@ -1,0 +1,52 @@
+// Text helpers. Inside the program all text is UTF-8; these routines count characters, not bytes,
+// as the system's string operations do. Positions are 1-based where the system's are.
+#pragma once
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace core {
+
+// Code page 1250 <-> UTF-8. Encoding a character CP1250 cannot hold throws Error 5 naming it.
+std::string toCp1250(std::string_view utf8, const std::string& step = "zapis pliku");
+std::string fromCp1250(std::string_view bytes);
+
+// Character counts and slices (1-based start, as Mid$).
+std::size_t Len(std::string_view s);
+std::string Left(std::string_view s, std::size_t n);
+std::string Right(std::string_view s, std::size_t n);
+std::string Mid(std::string_view s, std::size_t start, std::size_t n = std::string::npos);
+std::string Trim(std::string_view s);
+std::string LTrim(std::string_view s);
+std::string RTrim(std::string_view s);
+std::string UCase(std::string_view s);  // knows the Polish letters
+std::string LCase(std::string_view s);
+std::string Space(std::size_t n);
+std::string String(std::size_t n, char c);
+// 1-based position of `what` in `s` from character `start`, 0 when absent.
+std::size_t InStr(std::string_view s, std::string_view what, std::size_t start = 1);
+std::string Replace(std::string_view s, std::string_view what, std::string_view with);
+
+// Pad with blanks on the right and cut to n characters (a text field of a fixed width).
+std::string PadRight(std::string_view s, std::size_t n);
+// Blanks in front, keep the last n characters (a right-aligned fixed-width cell).
+std::string PadLeft(std::string_view s, std::size_t n);
+
+std::vector<std::string> Split(std::string_view s, char sep);
+
+// Every "," becomes "." (numbers typed on a screen, before they are parsed).
+std::string KropkaZamiastPrzecinka(std::string& s);
+std::string KropkaZamiastPrzecinka(std::string&& s);
+
+// Numbers from text.
+// Val: reads the leading number of a text, blanks ignored, stops at the first other character;
+// 0 when there is none.
+double Val(std::string_view s);
+// A strict conversion: the whole text (blanks around it allowed) must be a number with a
+// decimal point, else Error 13 at `step`. Empty text is an error too.
+double toDouble(std::string_view s, const std::string& step);
+// The same, but empty text gives 0 (an empty item read into a number).
+double toDoubleOrZero(std::string_view s, const std::string& step);
+bool isNumeric(std::string_view s);
+
+}  // namespace core

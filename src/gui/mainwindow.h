@@ -1,0 +1,23 @@
+// The main window: frmPlace with its menu bar.
+#pragma once
+#include <QMainWindow>
+
+#include "gui/formview.h"
+#include "reference/place.h"
+
+namespace gui {
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit MainWindow(reference::PlaceScreen& place);
+    FormView* view() const { return view_; }
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    FormView* view_;
+};
+
+}  // namespace gui

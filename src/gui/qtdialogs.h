@@ -1,0 +1,39 @@
+// Message boxes, input boxes and screens shown with Qt.
+#pragma once
+#include <QDialog>
+
+#include "core/dialogs.h"
+#include "gui/formview.h"
+
+namespace gui {
+
+// One screen of the engine as a modal dialog.
+class ScreenDialog : public QDialog {
+    Q_OBJECT
+public:
+    ScreenDialog(core::Form& form, QWidget* parent);
+    FormView* view() const { return view_; }
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+
+private:
+    FormView* view_;
+};
+
+class QtDialogs : public core::Dialogs {
+public:
+    explicit QtDialogs(QWidget* parent = nullptr) : parent_(parent) {}
+    void setParent(QWidget* p) { parent_ = p; }
+    core::Answer msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) override;
+    std::optional<std::string> inputBox(const std::string& prompt, const std::string& title, const std::string& def) override;
+    void showForm(core::Form& form) override;
+    void doEvents(core::Form& form) override;
+
+private:
+    QWidget* activeParent() const;
+    QWidget* parent_;
+};
+
+}  // namespace gui

@@ -1,0 +1,69 @@
+// frmPlace: the main window. The start of a session (installation record, rates, payer, list
+// date, password), the clock, the folder choice, the password change and the main menu.
+#pragma once
+#include <memory>
+#include <string>
+
+#include "core/form.h"
+#include "core/instance.h"
+#include "core/screens.h"
+#include "core/session.h"
+
+namespace reference {
+
+extern const char* const kVersion;  // "1.0.0"
+
+class PlaceScreen : public core::Form {
+public:
+    PlaceScreen(core::Dialogs& ui, core::Session& s, const core::Screens& screens);
+
+    // The start, steps 1 to 12.
+    void Load() override;
+    // The guard of the first showing: password, single instance, version, today in the calendar.
+    void Activate();
+
+    void cmdPotwierdz();
+    void cmdAkceptuj();
+    void cmdKoniec();
+    void Has_o();
+    void Sciezka();
+    // A date picked in the calendar or Enter in txtDataListyS.
+    void MonthView1_DateClick();
+    void tmCzas_Timer();
+
+    // Enables the entries of the main menu that lead somewhere.
+    void refreshMenu();
+
+    core::Session& s;
+
+    // Session controls.
+    core::Control Label4{this, "Label4", core::Kind::Label};
+    core::Control lbPlatnik{this, "lbPlatnik", core::Kind::Label};
+    core::Control lbAdministrator{this, "lbAdministrator", core::Kind::Label};
+    core::Control lbData{this, "lbData", core::Kind::Label};
+    core::Control lbGodzina{this, "lbGodzina", core::Kind::Label};
+    core::Control txtZestaw{this, "txtZestaw", core::Kind::TextBox};
+    core::Control txtDataListyS{this, "txtDataListyS", core::Kind::TextBox};
+    core::Control cmdPotwierdz_{this, "cmdPotwierdz", core::Kind::CommandButton, "&Akceptacja Daty"};
+    core::Control MonthView1{this, "MonthView1", core::Kind::MonthView};
+    core::Control drvStacjaDyskow{this, "drvStacjaDyskow", core::Kind::ComboBox};
+    core::Control dirFolder{this, "dirFolder", core::Kind::FolderTree};
+    core::Control cmdAkceptuj_{this, "cmdAkceptuj", core::Kind::CommandButton, "Akceptuj folder"};
+    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "W&yjscie z programu"};
+    core::Control tmCzas{this, "tmCzas", core::Kind::Timer};
+
+    // The menu: drop-downs and their entries.
+    std::vector<std::unique_ptr<core::Control>> menu;
+
+private:
+    void addMenu(const std::string& name, const std::string& caption, const std::string& parent);
+    void readInstalka(const std::filesystem::path& folder);
+    void readRates();
+    void refreshPayer();
+    void setCaption();
+    void setOkres();
+    const core::Screens& screens_;
+    std::unique_ptr<core::InstanceLock> lock_;
+};
+
+}  // namespace reference

@@ -1,0 +1,225 @@
+#include "reference/podatki.h"
+
+#include "core/numbers.h"
+#include "core/paths.h"
+#include "core/text.h"
+#include "reference/rates.h"
+
+namespace fs = std::filesystem;
+using core::Answer;
+using core::Buttons;
+using core::Icon;
+using core::Kind;
+
+namespace reference {
+
+namespace {
+
+struct Box {
+    int field;
+    const char* control;
+    const char* label;
+    const char* frame;
+    bool number;  // must hold a number (or nothing)
+};
+
+// The text boxes of the screen in the order of the save command, with their labels.
+const Box kBoxes[] = {
+    {Dane::Stawka1, "txtStawka1", "Stawka 1", "fraStawki", true},
+    {Dane::Stawka2, "txtStawka2", "Stawka 2", "fraStawki", true},
+    {Dane::Stawka3, "txtStawka3", "Stawka 3", "fraStawki", true},
+    {Dane::Stawka4, "txtStawka4", "Stawka 4", "fraStawki", true},
+    {Dane::ProgI, "txtProgI", "Progi (2561.20)", "fraStawki", true},
+    {Dane::ProgII, "txtProgII", "Próg II", "fraStawki", true},
+    {Dane::ProgIII, "txtProgIII", "Próg III", "fraStawki", true},
+    {Dane::ProgIV, "txtProgIV", "Próg IV", "fraStawki", true},
+    {Dane::KwotaUlgi, "txtKwotaUlgi", "Kwota ulgi podatkowej", "fraStawki", true},
+    {Dane::KosztyUzyskania, "txtKosztyUzyskania", "Koszty uzyskania normalne", "fraStawki", true},
+    {Dane::Ubrent, "txtUbrent", "Stawka Rentowa", "fraZUS", true},
+    {Dane::sklRentPrd, "txtsklRentPrd", "Stawka Rentowa pracodawcy", "fraZUS", true},
+    {Dane::Ubemer, "txtUbemer", "Stawka Emerytalna", "fraZUS", true},
+    {Dane::UbChor, "txtUbChor", "Stawka Chorobowa", "fraZUS", true},
+    {Dane::UbWypad, "txtUbWypad", "Stawka Wypadkowa", "fraZUS", true},
+    {Dane::Kasach, "txtKasach", "Stawka Zdrowotna Kasa razem  (np.9)", "fraZUS", true},
+    {Dane::FuPr, "txtFuPr", "Stawka  na Fundusz Pracy", "fraZUS", true},
+    {Dane::FGSP, "txtFGSP", "Stawka na Fundusz Gwar.Św.Pr.", "fraZUS", true},
+    {Dane::StaFEP, "txtStaFEP", "Stawka na FEP", "fraZUS", true},
+    {Dane::DniPracy, "txtDniPracy", "Ilość dni pracy w mies.", "fraInne", true},
+    {Dane::ZR, "txtZR", "Kwota zasilku rodzinego  na 1 os.", "fraInne", true},
+    {Dane::Solid, "txtSolid", "Solidarność", "fraInne", true},
+    {Dane::SklZWZ, "txtSklZWZ", "Związek Zawodowy", "fraInne", true},
+    {Dane::ZPielegnacyjny, "txtZPielegnacyjny", "Kwota zasiłku pielęgnacyjnego", "fraInne", true},
+    {Dane::SklKZP, "txtSklKZP", "Kwota(wsk) potrąceń na KZP", "fraInne", true},
+    {Dane::SklPZU, "txtSklPZU", "Składka na PZU", "fraInne", true},
+    {Dane::MInBRUTTO, "txtMInBRUTTO", "Najniższe wynagrodzenie brutto", "fraInne", true},
+    {Dane::Trzynastka, "txtTrzynastka", "Wskaźnik trzynastki np. 8.5", "fraInne", true},
+    {Dane::KwotaGRE, "txtKwotaGRE", "Graniczna kwota do składek Emerytanej i Rentowej.", "fraZUS", true},
+    {Dane::PRKu, "txtPRKu", "Koszty uzyskania zwiekszone", "fraStawki", true},
+    {Dane::stZDI, "txtstZDI", "Stawka Zdrowotna Indywidualna", "fraZUS", true},
+    {Dane::KwPodstZDRwlasciciela, "txtKwPodstZDRwlasciciela", "Kwota podstawy zdrowotnej samodzielnie prow.dział.gospod",
+     "fraInne", true},
+    {Dane::KwPodstZUSswiadczSoc, "TxtKwPodstZUSswiadczSoc", "Kwota podstawy składek ZUS dla świadczeń socjalnych",
+     "fraInne", true},
+    {Dane::PodstawaDoKZP, "txtPodstawaDoKZP",
+     "Podstawa do skladek KZP np: brutto lub zasadnicza, mbrutto (-chorobowe)   funkcyjny(zasadnicza +funkcyjny)",
+     "fraInne", false},
+};
+
+}  // namespace
+
+PodatkiScreen::PodatkiScreen(core::Dialogs& ui, core::Session& session)
+    : Form(ui, "frmPodatki", "Instalacja - Podatki , Stawki ZUS , Wskazniki", core::ReportWords::Linni), s(session) {
+    Label18.at(0, 0, 3);
+    fraStawki.at(1, 0);
+    fraZUS.at(1, 1);
+    fraInne.at(1, 2);
+    int rows[3] = {0, 0, 0};
+    for (const Box& b : kBoxes) {
+        auto c = std::make_unique<core::Control>(this, b.control, Kind::TextBox);
+        std::string frame = b.frame;
+        int col = frame == "fraStawki" ? 0 : frame == "fraZUS" ? 1 : 2;
+        c->in(frame).at(rows[col]++, 0).label(b.label).width(b.number ? 10 : 12);
+        boxes.push_back(std::move(c));
+    }
+    Label36.in("fraZUS").at(rows[1]++, 0).label("Kwota składki zdrowotnej indywidualnej");
+    Label34.at(2, 0, 3);
+    cmdZapisz_.at(3, 0);
+    CmdZmianaKosztow.at(3, 1);
+    CmdZmianaKosztow.Enabled = false;
+    CmdZmianaKosztow.ToolTipText = "Zmiana kosztów w zbiorach list płac nie jest jeszcze dostępna w tej wersji programu.";
+    cmdKoniec_.at(3, 2);
+    cmdZapisz_.Click = [this] { cmdZapisz(); };
+    cmdKoniec_.Click = [this] { cmdKoniec(); };
+}
+
+core::Control& PodatkiScreen::txt(int field) {
+    for (std::size_t i = 0; i < std::size(kBoxes); ++i)
+        if (kBoxes[i].field == field) return *boxes[i];
+    throw core::Error(core::err::SubscriptOutOfRange, "frmPodatki", "pole bez okna tekstowego");
+}
+
+void PodatkiScreen::fill(const core::Record& r) {
+    for (std::size_t i = 0; i < std::size(kBoxes); ++i) boxes[i]->Text = r.s(kBoxes[i].field);
+}
+
+void PodatkiScreen::refreshLabel36() {
+    double podst = core::Val(core::KropkaZamiastPrzecinka(std::string(txt(Dane::KwPodstZDRwlasciciela).Text)));
+    double st = core::Val(core::KropkaZamiastPrzecinka(std::string(txt(Dane::stZDI).Text)));
+    Label36.Caption = core::numText(core::Round2(podst * st / 100));
+}
+
+void PodatkiScreen::Load() {
+    const std::string year = s.rok();
+    Label18.Caption = "Stawki obowiazujace na " + year + " rok";
+    fs::path file = Dane::path(s);
+    if (!core::fileExists(file)) {
+        Answer a = ui.msgBox("Brak pliku danych ogólnych w podkatalogu Dane , Założenie zbioru od nowa Tak ?",
+                             Buttons::YesNo, Icon::Question, "Brak zbioru Dane !");
+        if (a != Answer::Yes) {
+            ui.msgBox("Brak Zbioru! ", Buttons::OK, Icon::Exclamation);
+            Unload();
+            return;
+        }
+        core::ensureFolder(s.katalog(), {"dane"});
+        core::commitFile(file, std::string());
+        ui.msgBox("Uzupełnij dane i Zapisz zmiany!", Buttons::OK, Icon::Information, "Wpis pierwszy !");
+        return;
+    }
+    guarded([&] {
+        bool found = false;
+        core::Record r = Dane::readYear(file, year, &found);
+        if (found) fill(r);
+        refreshLabel36();
+    });
+}
+
+bool PodatkiScreen::checkNumbers() {
+    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
+        std::string t = core::Trim(core::KropkaZamiastPrzecinka(std::string(boxes[i]->Text)));
+        if (!kBoxes[i].number || t.empty() || core::isNumeric(t)) continue;
+        ui.msgBox("W polu \"" + std::string(kBoxes[i].label) + "\" wpisano \"" + boxes[i]->Text +
+                      "\" - to nie jest liczba. Popraw wartość; zmian nie zapisano.",
+                  Buttons::OK, Icon::Exclamation, "Błędna wartość");
+        SetFocus(*boxes[i]);
+        return false;
+    }
+    return true;
+}
+
+void PodatkiScreen::take(core::Record& r) {
+    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
+        core::KropkaZamiastPrzecinka(boxes[i]->Text);
+        std::string t = boxes[i]->Text;
+        if (r.schema().fields[kBoxes[i].field - 1].type == core::FieldType::Float)
+            r.set(kBoxes[i].field, static_cast<float>(core::toDoubleOrZero(t, kBoxes[i].control)));
+        else
+            r.set(kBoxes[i].field, t);
+    }
+    r.set(Dane::Rok, s.rok());
+}
+
+void PodatkiScreen::cmdZapisz() {
+    if (!checkNumbers()) return;
+    guarded([&] {
+        const std::string year = s.rok();
+        fs::path file = Dane::path(s);
+        std::vector<core::Record> recs = core::readAll(file, Dane::schema());
+        bool found = false;
+        for (core::Record& r : recs) {
+            if (r.s(Dane::Rok) == year) {
+                Label34.Caption = "Zapisane zmiany do " + year + " roku";
+                take(r);
+                refreshLabel36();
+                found = true;
+            }
+        }
+        if (!found) {
+            Answer a = ui.msgBox(
+                "Brak pliku danych ogólnych w podkatalogu Dane na ten rok , Zostaną założone na w/w danych",
+                Buttons::YesNo, Icon::Question, "Brak zbioru Dane na rok " + year);
+            if (a != Answer::Yes) return;
+            Label34.Caption = "Dopisano w/w dane do " + year + " roku";
+            core::Record r(Dane::schema());
+            r.setEmpty(Dane::Rezerwa28);
+            take(r);
+            recs.push_back(std::move(r));
+            refreshLabel36();
+        }
+        core::writeAll(file, recs, "TYMCZ.dta");
+        loadRates(s);
+    });
+}
+
+ObslugaScreen::ObslugaScreen(core::Dialogs& ui, core::Session& session)
+    : Form(ui, "frmObsługa", "Administrator"), s(session) {
+    txtAdministrator1.at(0, 0).label("Imię i nazwisko administratora").width(30);
+    txtAdministrator2.at(1, 0).label("Stanowisko").width(30);
+    lbAdministrator.at(2, 0, 2);
+    cmdZapisz_.at(3, 0);
+    cmdKoniec_.at(3, 1);
+    cmdZapisz_.Click = [this] { cmdZapisz(); };
+    cmdKoniec_.Click = [this] { Unload(); };
+}
+
+void ObslugaScreen::Load() {
+    core::Record r = Dane::readYear(Dane::path(s), s.rok());
+    txtAdministrator1.Text = r.s(Dane::Administrator1);
+    txtAdministrator2.Text = r.s(Dane::Administrator2);
+    lbAdministrator.Caption = administrator(r);
+}
+
+void ObslugaScreen::cmdZapisz() {
+    const std::string year = s.rok();
+    fs::path file = Dane::path(s);
+    std::vector<core::Record> recs = core::readAll(file, Dane::schema());
+    for (core::Record& r : recs) {
+        if (r.s(Dane::Rok) != year) continue;
+        r.set(Dane::Administrator1, txtAdministrator1.Text);
+        r.set(Dane::Administrator2, txtAdministrator2.Text);
+        lbAdministrator.Caption = administrator(r);
+    }
+    core::writeAll(file, recs, "tymczd.dta");
+    loadRates(s);
+}
+
+}  // namespace reference

@@ -1,0 +1,55 @@
+// frmPodatki: the rates of the year of the list date; frmObsługa: the administrator line.
+#pragma once
+#include <memory>
+#include <vector>
+
+#include "core/form.h"
+#include "core/session.h"
+
+namespace reference {
+
+class PodatkiScreen : public core::Form {
+public:
+    PodatkiScreen(core::Dialogs& ui, core::Session& s);
+    void Load() override;
+    void cmdZapisz();
+    void cmdKoniec() { Unload(); }
+
+    // The text box of a field of Dane.dta.
+    core::Control& txt(int field);
+
+    core::Session& s;
+    core::Control Label18{this, "Label18", core::Kind::Label};
+    core::Control Label34{this, "Label34", core::Kind::Label};
+    core::Control Label36{this, "Label36", core::Kind::Label};
+    core::Control fraStawki{this, "fraStawki", core::Kind::Frame, "Podatek"};
+    core::Control fraZUS{this, "fraZUS", core::Kind::Frame, "ZUS i fundusze"};
+    core::Control fraInne{this, "fraInne", core::Kind::Frame, "Kwoty i wskaźniki"};
+    std::vector<std::unique_ptr<core::Control>> boxes;
+    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz zmiany"};
+    core::Control CmdZmianaKosztow{this, "CmdZmianaKosztow", core::Kind::CommandButton,
+                                   "Zmiana kosztów uzyskania i ulgi pod w zbiorach"};
+    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+
+private:
+    void fill(const core::Record& r);
+    void take(core::Record& r);
+    void refreshLabel36();
+    bool checkNumbers();
+};
+
+class ObslugaScreen : public core::Form {
+public:
+    ObslugaScreen(core::Dialogs& ui, core::Session& s);
+    void Load() override;
+    void cmdZapisz();
+
+    core::Session& s;
+    core::Control txtAdministrator1{this, "txtAdministrator1", core::Kind::TextBox};
+    core::Control txtAdministrator2{this, "txtAdministrator2", core::Kind::TextBox};
+    core::Control lbAdministrator{this, "lbAdministrator", core::Kind::Label};
+    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz"};
+    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+};
+
+}  // namespace reference
