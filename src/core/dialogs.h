@@ -8,6 +8,8 @@
 namespace core {
 
 class Form;
+class Screens;
+struct Session;
 
 enum class Buttons { OK, OKCancel, AbortRetryIgnore, YesNoCancel, YesNo, RetryCancel };
 enum class Icon { None, Critical, Question, Exclamation, Information };
@@ -26,6 +28,14 @@ public:
     virtual void showForm(Form& form) = 0;
     // Lets a screen busy with long work show its controls' new state (a progress bar).
     virtual void doEvents(Form& form) {}
+
+    // The screens of the program by name (a main menu entry such as "stawki", or a screen
+    // opened from another screen such as "frmPlaca"). A screen of a subsystem opens a screen of
+    // a subsystem to its right only through this.
+    const Screens* screens = nullptr;
+    bool canOpen(const std::string& name) const;
+    // Opens the named screen; false when this program has none of that name.
+    bool open(const std::string& name, Session& s);
 };
 
 // A short alias for the common box with OK only.

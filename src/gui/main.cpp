@@ -18,7 +18,8 @@ int main(int argc, char** argv) {
     core::Screens screens;
     gui::registerAllScreens(screens);
     gui::QtDialogs dialogs;
-    reference::PlaceScreen place(dialogs, session, screens);
+    dialogs.screens = &screens;
+    reference::PlaceScreen place(dialogs, session);
     gui::MainWindow win(place);
     dialogs.setParent(&win);
     win.view()->runWork([&] { place.Load(); });

@@ -83,8 +83,8 @@ bool notInThisVersion(const std::string& name) {
 
 }  // namespace
 
-PlaceScreen::PlaceScreen(core::Dialogs& ui, core::Session& session, const core::Screens& screens)
-    : Form(ui, "frmPlace", "pensja"), s(session), screens_(screens) {
+PlaceScreen::PlaceScreen(core::Dialogs& ui, core::Session& session)
+    : Form(ui, "frmPlace", "pensja"), s(session) {
     for (const MenuEntry& m : kMenu) addMenu(m.name, m.caption, m.parent);
 
     lbPlatnik.at(0, 0, 2).label("Płatnik:");
@@ -127,7 +127,10 @@ void PlaceScreen::addMenu(const std::string& name, const std::string& caption, c
         else if (name == "Sciezka")
             raw->Click = [this] { Sciezka(); };
         else
-            raw->Click = [this, name] { screens_.open(name, s, this->ui); refreshPayer(); };
+            raw->Click = [this, name] {
+                this->ui.open(name, s);
+                refreshPayer();
+            };
     }
     menu.push_back(std::move(c));
 }
@@ -141,7 +144,7 @@ void PlaceScreen::refreshMenu() {
             m->Enabled = false;
             m->ToolTipText = "Ta funkcja nie jest częścią tej wersji programu.";
         } else {
-            m->Enabled = screens_.has(m->Name);
+            m->Enabled = ui.canOpen(m->Name);
             m->ToolTipText = m->Enabled ? "" : "Ten ekran nie jest jeszcze dostępny w tej wersji programu.";
         }
     }

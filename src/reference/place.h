@@ -15,7 +15,7 @@ extern const char* const kVersion;  // "1.0.0"
 
 class PlaceScreen : public core::Form {
 public:
-    PlaceScreen(core::Dialogs& ui, core::Session& s, const core::Screens& screens);
+    PlaceScreen(core::Dialogs& ui, core::Session& s);
 
     // The start, steps 1 to 12.
     void Load() override;
@@ -62,7 +62,6 @@ private:
     void refreshPayer();
     void setCaption();
     void setOkres();
-    const core::Screens& screens_;
     std::unique_ptr<core::InstanceLock> lock_;
 };
 

@@ -44,7 +44,8 @@ TEST(MainWindowGui, MenuEntriesFollowTheScreensThatExist) {
     ui.type(std::string("demo"));
     core::Screens screens;
     gui::registerAllScreens(screens);
-    reference::PlaceScreen place(ui, demo.session, screens);
+    ui.screens = &screens;
+    reference::PlaceScreen place(ui, demo.session);
     gui::MainWindow win(place);
     win.view()->runWork([&] { place.Load(); });
     win.view()->runWork([&] { place.Activate(); });

@@ -1,0 +1,42 @@
+// The pay record of a list: bazy\<list>.dta, records of 155 items, one item a line.
+#pragma once
+#include <filesystem>
+#include <vector>
+
+#include "core/record.h"
+#include "core/session.h"
+
+namespace payinputs {
+
+namespace Pay {
+enum : int {
+    Poczatek = 1, Nazwisko, Imie, Pesel, KodUbezpieczenia, Zasadnicza, Funkcyjny, Stazowy, Premia, Specjalny,
+    Inny, Motywacyjny, Wiejski, Specjalistyczny, Wychowawczy, Trudnosciowy, Ekwiwalent, Nocny, Wyrownania,
+    Szkodliwy, StawkaP, DataZatrudnienia, DodatekStazowy, RozliczenieWspolne, SamotnaMatka, WskTabeli, ROR,
+    RorGodziny, RorDodatki, KosztyUzyskania, KwotaUlgi, Mieszkaniowy, Dojazd, UlgaInwestycyjna, ZastosStaPOD,
+    NumerKontaROR, ZFMPozyczka, ZFMRata, KZPWklady, KZPpozyczka, KZPRata, KZPSkladka, Rezerwa43, POTRInne,
+    Zwiazek, Solidarnosc, PZU, Potracenie2, PotraceniaPoZasilkach, Potracenie1, Dokument, Obywatelstwo,
+    Zasilek1, Zasilek2, Zasilek3, Zasilek4, Zasilek5, Zasilek6, SredniaCH1, Liczbadni1, okresOd1, okresDo1,
+    KodPrzerwy1, Ch1Pr, SredniaCH2, Liczbadni2, okresOd2, okresDo2, KodPrzerwy2, Ch2Pr, SredniaCH3, Liczbadni3,
+    okresOd3, okresDo3, KodPrzerwy3, Ch3Pr, SredniaCH4, Liczbadni4, okresOd4, okresDo4, KodPrzerwy4, Ch4Pr,
+    KwotaCh1, KwotaCh2, KwotaCh3, KwotaCh4, Grupa, Rezerwa88, Rezerwa89, ZnacznikCh1, Rezerwa91, ZnacznikCh3,
+    ZnacznikCh4, Rezerwa94, Wypadkowa, Rezerwa96, Rezerwa97, Rezerwa98, Rezerwa99, DataZatrudnieniaDO, Rentowa,
+    BZP3dni, BZP3Od, BZP3Do, BZP3Kod, Rezerwa106, Emerytalna, BZP1dni, BZP1Od, BZP1Do, BZP1Kod, BZP2dni,
+    BZP2Od, BZP2Do, BZP2Kod, Rezerwa116, Rezerwa117, Rezerwa118, Rezerwa119, Rezerwa120, Rezerwa121,
+    Rezerwa122, Rezerwa123, Rezerwa124, Rezerwa125, Rezerwa126, Rezerwa127, SredniaChorobowa, DniChorobyOd01,
+    BruttoOd01, Chorobowa, Zdrowotna, DataZerowania, Rezerwa134, Rezerwa135, Rezerwa136, Rezerwa137,
+    Rezerwa138, Rezerwa139, Rezerwa140, Rezerwa141, Rezerwa142, Rezerwa143, Rezerwa144, Rezerwa145,
+    WskaznikEtatu, Rezerwa147, Rezerwa148, EFPomostowy, Rezerwa150, Rezerwa151, Rezerwa152, RodzajUmowy, Numer,
+    Koniec, Count = Koniec
+};
+const core::Schema& schema();
+// bazy\<NazwaZbioru>.dta of the session's payer (SciezkaBazy when it is set).
+std::filesystem::path path(const core::Session& s);
+std::vector<core::Record> readAll(const std::filesystem::path& file);
+}  // namespace Pay
+
+// The identifier of a pay record: Pesel, or Dokument for a citizenship other than Polish
+// (the rule of the personnel file).
+std::string kluczOsoby(const core::Record& pay);
+
+}  // namespace payinputs
