@@ -6,8 +6,9 @@ namespace reference {
 
 PomocScreen::PomocScreen(core::Dialogs& ui, const core::Session& session)
     : Form(ui, "frmPomoc", "Pomoc - pensja, płace i kadry"), s(session) {
-    txtPomoc.at(0, 0, 2).width(90);
+    txtPomoc.at(0, 0, 2).width(96);
     txtPomoc.MultiLine = true;
+    txtPomoc.Rows = 30;
     txtPomoc.Locked = true;
     cmdZamknij_.at(1, 1);
     cmdZamknij_.Click = [this] { Unload(); };
@@ -40,11 +41,11 @@ std::string tekstPomocy(const core::Session& s) {
     t += "   (zestaw ustawia Zbiorówki > Wybór zestawu do przetwarzania).\n\n";
     t += "GDZIE SĄ DANE\n";
     t += "Folder danych: " + k + "\n";
-    t += "  instalka.dat      - hasło, folder danych, bieżący Płatnik, drukarka, zestaw, data listy\n";
-    t += "  MojaFirma.txt     - rejestr Płatników\n";
-    t += "  dane/Dane.dta     - stawki lat; dane/tabela.dat - taryfikator płac\n";
+    t += "  instalka.dat - hasło, folder danych, bieżący Płatnik, drukarka, zestaw, data listy\n";
+    t += "  MojaFirma.txt - rejestr Płatników\n";
+    t += "  dane/Dane.dta - stawki lat; dane/tabela.dat - taryfikator płac\n";
     t += "Folder Płatnika: " + k + "/" + p + "\n";
-    t += "  instal.dat        - katalog list płac\n";
+    t += "  instal.dat - katalog list płac\n";
     t += "  Person/<lista>.per - dane osobowe,  Bazy/<lista>.dta - dane płacowe\n";
     t += "  Karta/<lista><RRmm>.dta - kartoteka miesiąca,  Sumy - sumy list\n";
     t += "  Zus, Kdu - dokumenty do ZUS;  Pit4, Pit11, Pit8b - podatki;  ROR, Przelewy - przelewy\n";
