@@ -35,6 +35,12 @@ std::filesystem::path path(const core::Session& s);
 std::vector<core::Record> readAll(const std::filesystem::path& file);
 }  // namespace Pay
 
+// A new pay record as the pay screen makes it: the markers "<Poczatek>" and "<Koniec>", every
+// amount 0 (the numeric variants bare 0), every date, flag and text "", `ZastosStaPOD` the
+// first tax rate (in percent) / 100, the five contribution switches 1, `Obywatelstwo`
+// "POLSKIE", `Numer` as given.
+core::Record nowyRekordPlacowy(double stawka1, int numer);
+
 // The identifier of a pay record: Pesel, or Dokument for a citizenship other than Polish
 // (the rule of the personnel file).
 std::string kluczOsoby(const core::Record& pay);
