@@ -153,6 +153,7 @@ QWidget* FormView::make(Control& c) {
     case Kind::Label: {
         auto* l = new QLabel(this);
         l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        if (c.Mono) l->setFont(monoFont());
         w = l;
         break;
     }

@@ -178,6 +178,29 @@ std::filesystem::path path(const core::Session& s) {
 
 std::vector<core::Record> readAll(const std::filesystem::path& file) { return core::readAll(file, kSchema); }
 
+void renumber(std::vector<core::Record>& recs, const std::string& koniec) {
+    long numer = 0;
+    for (core::Record& r : recs) {
+        r.set(Poczatek, kPoczatek);
+        r.set(Koniec, koniec);
+        r.set(Numer, ++numer);
+    }
+}
+
+int replace(const std::filesystem::path& file, const std::string& klucz,
+            const std::function<void(core::Record&)>& change, const std::string& tempName, const std::string& koniec) {
+    std::vector<core::Record> recs = readAll(file);
+    int matched = 0;
+    for (core::Record& r : recs) {
+        if (kluczOsoby(r) != klucz) continue;
+        change(r);
+        ++matched;
+    }
+    renumber(recs, koniec);
+    core::writeAll(file, recs, tempName);
+    return matched;
+}
+
 }  // namespace Pay
 
 core::Record nowyRekordPlacowy(double stawka1, int numer) {
