@@ -116,6 +116,7 @@ core::Record& Lista::dodaj(const std::string& pesel, float zasadnicza, const std
     osoby.push_back(osoba(pesel, urodzony, "KOWALSKI", imie));
     osoby.back().set(Osoba::Numer, static_cast<long>(osoby.size()));
     place.push_back(placa(pesel, zasadnicza, "KOWALSKI", imie));
+    place.back().set(Pay::DataZatrudnienia, "01/02/" + std::to_string(std::stoi(s.rok()) - 1));
     place.back().set(Pay::Numer, static_cast<long>(place.size()));
     return place.back();
 }

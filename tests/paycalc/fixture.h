@@ -19,7 +19,7 @@ namespace fx {
 core::Record stawkiRoku(int rok);
 
 // A pay record as a new record has it: every float 0, the switches 1, costs 111.25, relief
-// 46.33, tax rate 0.18, hired 01/02/2007 (seniority 0 % in the years of the tests before 2012).
+// 46.33, tax rate 0.18, hired 01/02/2007.
 core::Record placa(const std::string& pesel, float zasadnicza, const std::string& nazwisko = "KOWALSKI",
                    const std::string& imie = "JAN");
 // A personnel record: full post "  1  1", group "a", insurance code "011000".
@@ -35,7 +35,8 @@ struct Lista {
 
     // Payer "FIRMA", list "L1", the list date dd-mm-rrrr; Dane.dta of 2008, 2009, 2019, 2020.
     explicit Lista(const std::string& dataListy);
-    // A pay record and the personnel record of the same person.
+    // A pay record and the personnel record of the same person, hired on 1 February of the
+    // year before the list (no seniority allowance).
     core::Record& dodaj(const std::string& pesel, float zasadnicza, const std::string& urodzony = "15-05-1970",
                         const std::string& imie = "JAN");
     core::Record& osobaNr(std::size_t i) { return osoby.at(i); }
