@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/dialogs.h"
+#include "core/printer.h"
 #include "core/session.h"
 
 namespace cli {
@@ -21,6 +22,8 @@ public:
     core::Answer msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) override;
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title, const std::string& def) override;
     void showForm(core::Form& form) override;
+    core::TextPrinter paper;
+    core::Printer& printer() override { return paper; }
 };
 
 // A question that could not be answered: ends the command with a clear message.
@@ -40,6 +43,12 @@ struct Context {
     // Reads the installation record, the payer and the rates into the session (with the
     // overrides of --data, --payer, --date). Throws core::Error on a missing file.
     void openSession();
+    // Takes --out FILE or --pdf FILE from the command's arguments (to be called before the
+    // arguments are read), and after the printing writes the pages there, or to standard
+    // output with pages separated by a form feed.
+    void takePrintOptions();
+    void emitPrint();
+    std::string outFile, pdfFile;
 };
 
 struct Command {

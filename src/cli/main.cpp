@@ -17,8 +17,6 @@ std::map<std::string, Command>& commands() {
     return c;
 }
 
-static bool affirmative(core::Buttons b) { return true; }
-
 core::Answer CliDialogs::msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) {
     std::cerr << "[" << title << "] " << text << std::endl;
     if (icon == core::Icon::Critical || icon == core::Icon::Exclamation) ++errorBoxes;
@@ -29,7 +27,6 @@ core::Answer CliDialogs::msgBox(const std::string& text, core::Buttons buttons, 
                                                                                                 : core::Answer::OK;
     core::Answer no = yesNo ? core::Answer::No : buttons == core::Buttons::AbortRetryIgnore ? core::Answer::Abort
                                                                                            : core::Answer::Cancel;
-    (void)affirmative;
     if (answer) return *answer ? yes : no;
     if (::isatty(0)) {
         std::cerr << (yesNo ? "Tak/Nie [t/n]: " : "OK/Anuluj [t/n]: ") << std::flush;

@@ -8,6 +8,7 @@
 namespace core {
 
 class Form;
+class Printer;
 class Screens;
 struct Session;
 
@@ -28,6 +29,9 @@ public:
     virtual void showForm(Form& form) = 0;
     // Lets a screen busy with long work show its controls' new state (a progress bar).
     virtual void doEvents(Form& form) {}
+    // The printer the screens print on (a preview with PDF and the system printer in the
+    // program, collected text on the command line and in tests).
+    virtual Printer& printer() = 0;
 
     // The screens of the program by name (a main menu entry such as "stawki", or a screen
     // opened from another screen such as "frmPlaca"). A screen of a subsystem opens a screen of

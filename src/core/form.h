@@ -71,6 +71,9 @@ public:
     bool MultiLine = false;
     bool Password = false;
     std::string Parent;  // menus: the name of the drop-down holding this entry
+    // A Label control of the screen shown in the place of this control's label (a label whose
+    // caption the screen changes).
+    std::string LabelControl;
 
     // Events.
     std::function<void()> Click, DblClick, Change, KeyEnter, LostFocus, Tick;
@@ -96,6 +99,10 @@ public:
     }
     Control& tip(std::string t) {
         ToolTipText = std::move(t);
+        return *this;
+    }
+    Control& labelledBy(const Control& l) {
+        LabelControl = l.Name;
         return *this;
     }
     Control& under(std::string menu) {

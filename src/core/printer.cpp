@@ -16,7 +16,7 @@ void TextPrinter::print(const std::string& text, bool newLine) {
 
 void TextPrinter::flushLine() {
     if (current_.empty()) current_.emplace_back();
-    current_.back().push_back({pending_, bold_, size_});
+    current_.back().push_back({pending_, bold_, size_, font_});
     pending_.clear();
     pendingOpen_ = false;
 }
@@ -39,7 +39,7 @@ std::vector<TextPrinter::Page> TextPrinter::pages() const {
     all.insert(all.end(), current_.begin(), current_.end());
     if (pendingOpen_) {
         if (all.empty()) all.emplace_back();
-        all.back().push_back({pending_, bold_, size_});
+        all.back().push_back({pending_, bold_, size_, font_});
     }
     return all;
 }

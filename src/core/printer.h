@@ -30,6 +30,7 @@ public:
         std::string text;
         bool bold = false;
         double size = 10;
+        std::string font = "Courier New";
     };
     using Page = std::vector<Line>;
 

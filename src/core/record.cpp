@@ -18,7 +18,8 @@ Record::Record(const Schema& schema) : schema_(&schema), items_(schema.fields.si
         case FieldType::Double:
         case FieldType::Int16:
         case FieldType::Long: items_[n - 1] = Item::bare("0"); break;
-        case FieldType::Variant: break;
+        case FieldType::Variant:
+        case FieldType::Blank: break;
         }
     }
 }
@@ -51,10 +52,12 @@ long Record::i(int n) const { return std::lround(d(n)); }
 void Record::set(int n, const std::string& text) {
     Item& it = item(n);
     FieldType t = schema_->fields[n - 1].type;
+    if (t == FieldType::Blank) return;
     switch (t) {
     case FieldType::String:
     case FieldType::Line:
     case FieldType::Variant: it = Item::quoted(text); break;
+    case FieldType::Blank: break;
     case FieldType::Float: set(n, static_cast<float>(toDoubleOrZero(text, fieldName(n)))); break;
     case FieldType::Double: set(n, toDoubleOrZero(text, fieldName(n))); break;
     case FieldType::Int16:
@@ -65,6 +68,7 @@ void Record::set(int n, const std::string& text) {
 void Record::set(int n, float v) {
     Item& it = item(n);
     FieldType t = schema_->fields[n - 1].type;
+    if (t == FieldType::Blank) return;
     switch (t) {
     case FieldType::String:
     case FieldType::Line: it = Item::quoted(numText(v)); break;
@@ -73,12 +77,14 @@ void Record::set(int n, float v) {
     case FieldType::Long: set(n, std::lround(v)); break;
     case FieldType::Float:
     case FieldType::Variant: it = Item::bare(numText(v)); break;
+    case FieldType::Blank: break;
     }
 }
 
 void Record::set(int n, double v) {
     Item& it = item(n);
     FieldType t = schema_->fields[n - 1].type;
+    if (t == FieldType::Blank) return;
     switch (t) {
     case FieldType::String:
     case FieldType::Line: it = Item::quoted(numText(v)); break;
@@ -87,12 +93,14 @@ void Record::set(int n, double v) {
     case FieldType::Long: set(n, std::lround(v)); break;
     case FieldType::Double:
     case FieldType::Variant: it = Item::bare(numText(v)); break;
+    case FieldType::Blank: break;
     }
 }
 
 void Record::set(int n, long v) {
     Item& it = item(n);
     FieldType t = schema_->fields[n - 1].type;
+    if (t == FieldType::Blank) return;
     if (t == FieldType::Int16 && (v < -32768 || v > 32767))
         throw Error(err::Overflow, std::string(schema_->name) + ", pole " + std::to_string(n) + " " + fieldName(n),
                     "wartość " + std::to_string(v) + " nie mieści się w polu");
@@ -158,7 +166,7 @@ void writeRecord(SeqWriter& out, const Record& rec) {
     int per = s.itemsPerWrite <= 0 ? s.size() : s.itemsPerWrite;
     std::vector<Item> line;
     for (int n = 1; n <= s.size(); ++n) {
-        line.push_back(rec.item(n));
+        line.push_back(s.fields[n - 1].type == FieldType::Blank ? Item::empty() : rec.item(n));
         if (static_cast<int>(line.size()) == per || n == s.size()) {
             out.write(line);
             line.clear();

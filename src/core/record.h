@@ -19,7 +19,8 @@ enum class FieldType : unsigned char {
     Double,   // double, written bare in its shortest form
     Int16,    // 16-bit integer
     Long,     // 32-bit integer
-    Line      // read as a whole line, the first and last characters stripped; written quoted
+    Line,     // read as a whole line, the first and last characters stripped; written quoted
+    Blank     // a kept position: read as anything, always written empty, storing into it is ignored
 };
 
 struct FieldDef {

@@ -113,7 +113,10 @@ void SeqWriter::print(std::string_view line) {
 }
 
 void commitFile(const fs::path& target, const std::string& utf8, const std::string& tempName) {
-    const std::string bytes = toCp1250(utf8, target.string());
+    commitBytes(target, toCp1250(utf8, target.string()), tempName);
+}
+
+void commitBytes(const fs::path& target, const std::string& bytes, const std::string& tempName) {
     fs::path folder = target.parent_path();
     if (folder.empty()) folder = ".";
     std::error_code ec;

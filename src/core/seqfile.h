@@ -73,6 +73,8 @@ std::string readFileText(const std::filesystem::path& path);
 // is flushed and synced, and then renamed over the target. A failure before the rename leaves
 // the target as it was and removes the temporary file.
 void commitFile(const std::filesystem::path& target, const std::string& utf8, const std::string& tempName = {});
+// The same for bytes written as they are (a PDF, a file of another code page).
+void commitBytes(const std::filesystem::path& target, const std::string& bytes, const std::string& tempName = {});
 inline void commitFile(const std::filesystem::path& target, const SeqWriter& w, const std::string& tempName = {}) {
     commitFile(target, w.text(), tempName);
 }

@@ -46,6 +46,18 @@ struct Stawki {
     float KwPodstZDRwlasciciela = 0;
 };
 
+// The person screen (frmOsoba1) as the pay screens of the person see it: the values of its
+// controls when it opens another screen of that person, and the derived fraction of the post.
+struct EkranOsoby {
+    bool Otwarty = false;          // filled by the person screen (else read from the file)
+    std::string Etat, Etat2;       // numerator and denominator of the post (txtEtat, txtEtat2)
+    std::string Grupa;             // txtGrupa
+    std::string Obywatelstwo;      // the citizenship, "POLSKIE" for empty or "0"
+    std::string Paszport;          // txtPaszport
+    std::string DataZatrudnienia;  // TxtDataZatrudnienia, dd-mm-rrrr or empty
+    double UlamekEtatu = 0;        // numerator / denominator to two decimals (0 without a denominator)
+};
+
 struct Session {
     // The working folder, where the start looks for a first copy of instalka.dat.
     std::filesystem::path WorkDir = ".";
@@ -65,6 +77,10 @@ struct Session {
 
     // The chosen employee.
     std::string KluczOsoby, NazwiskoOsoby, ImieOsoby, KodUbezpieczeniaOsoby;
+    EkranOsoby Osoba;
+    int LiczbaOsob = 0;  // the number of people on the open list
+    // "N" asks the pay screen to show the record again after it has made one.
+    std::string NowyZapis;
 
     // The payer (a record of MojaFirma.txt), the rates of the year (a record of Dane.dta) and
     // their derived values.

@@ -4,6 +4,7 @@
 
 #include "core/dialogs.h"
 #include "gui/formview.h"
+#include "gui/qtprinter.h"
 
 namespace gui {
 
@@ -25,15 +26,21 @@ private:
 class QtDialogs : public core::Dialogs {
 public:
     explicit QtDialogs(QWidget* parent = nullptr) : parent_(parent) {}
-    void setParent(QWidget* p) { parent_ = p; }
+    void setParent(QWidget* p) {
+        parent_ = p;
+        printer_.setParent(p);
+    }
     core::Answer msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) override;
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title, const std::string& def) override;
     void showForm(core::Form& form) override;
     void doEvents(core::Form& form) override;
+    core::Printer& printer() override { return printer_; }
+    QtPrinter& qtPrinter() { return printer_; }
 
 private:
     QWidget* activeParent() const;
     QWidget* parent_;
+    QtPrinter printer_;
 };
 
 }  // namespace gui

@@ -172,7 +172,14 @@ void PlaceScreen::Load() {
     s.Nieaktywny = "   ";
     // 2. The copy in the working folder points to the data folder.
     bool haveLocal = core::fileExists(core::resolvePath(s.WorkDir, {"instalka.dat"}));
-    if (haveLocal) guarded([&] { readInstalka(s.WorkDir); });
+    bool broken = false;
+    if (haveLocal) {
+        broken = true;
+        guarded([&] {
+            readInstalka(s.WorkDir);
+            broken = false;
+        });
+    }
     txtZestaw.Text = s.Zestaw;
     // 3.
     bool noFolder = s.Katalog.empty();
@@ -200,7 +207,8 @@ void PlaceScreen::Load() {
         cmdAkceptuj_.Visible = false;
     }
     // 10. No data folder yet: the folder shown is taken and the installation record made there.
-    if (noFolder) {
+    // A damaged record is left as it is for the operator to mend.
+    if (noFolder && !broken) {
         s.Katalog = dirFolder.Text;
         guarded([&] { core::Instalka::write(s.katalog(), s.instalkaRecord()); });
     }

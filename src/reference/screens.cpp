@@ -1,18 +1,27 @@
 #include "reference/screens.h"
 
 #include "reference/podatki.h"
+#include "reference/wybor.h"
 
 namespace reference {
 
+namespace {
+
+template <class Screen>
+core::Screens::Opener opener() {
+    return [](core::Session& s, core::Dialogs& d) {
+        Screen f(d, s);
+        d.showForm(f);
+    };
+}
+
+}  // namespace
+
 void registerScreens(core::Screens& screens) {
-    screens.add("stawki", [](core::Session& s, core::Dialogs& d) {
-        PodatkiScreen f(d, s);
-        d.showForm(f);
-    });
-    screens.add("obsluga", [](core::Session& s, core::Dialogs& d) {
-        ObslugaScreen f(d, s);
-        d.showForm(f);
-    });
+    screens.add("stawki", opener<PodatkiScreen>());
+    screens.add("obsluga", opener<ObslugaScreen>());
+    screens.add("wybór", opener<WyborScreen>());
+    screens.add("frmwybor", opener<WyborScreen>());
 }
 
 }  // namespace reference

@@ -236,3 +236,15 @@ TEST(SafeRewrite, FailureToWriteTheTemporaryFileLeavesTheFileWhole) {
     EXPECT_THROW(commitFile(file, "\"nowe\"\r\n", "tym.dta"), Error);
     EXPECT_EQ(readBytes(file), "\"stare\"\r\n");
 }
+
+TEST(Records, BlankPositionsAreAlwaysWrittenEmpty) {
+    static const FieldDef fields[] = {{"A", FieldType::String}, {"Puste", FieldType::Blank}, {"B", FieldType::Float}};
+    static const Schema schema{"k.dta", fields, 1};
+    auto in = SeqReader::fromText("\"x\"\r\n\"cokolwiek\"\r\n1.5\r\n");
+    Record r = readRecord(in, schema);
+    EXPECT_EQ(r.s(2), "cokolwiek");  // read like anything else
+    r.set(2, 12.5f);                  // storing is ignored
+    SeqWriter w;
+    writeRecord(w, r);
+    EXPECT_EQ(w.text(), "\"x\"\r\n\r\n1.5\r\n");
+}

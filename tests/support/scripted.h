@@ -10,6 +10,7 @@
 
 #include "core/dialogs.h"
 #include "core/form.h"
+#include "core/printer.h"
 
 namespace testing_support {
 
@@ -43,6 +44,8 @@ public:
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title, const std::string& def) override;
     void showForm(core::Form& form) override;
     void doEvents(core::Form&) override { ++events; }
+    core::TextPrinter paper;
+    core::Printer& printer() override { return paper; }
     int events = 0;
 
     // The boxes as "[title] text" lines, for readable expectations.

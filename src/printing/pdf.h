@@ -1,0 +1,14 @@
+// Printed pages as a PDF file (the fixed-pitch Courier of the PDF reader, Polish letters
+// included), for printing without the desktop.
+#pragma once
+#include <filesystem>
+#include <vector>
+
+#include "core/printer.h"
+
+namespace printing {
+
+// Writes the pages to `file` safely (a failure leaves no half-written file).
+void writePdf(const std::vector<core::TextPrinter::Page>& pages, const std::filesystem::path& file);
+
+}  // namespace printing
