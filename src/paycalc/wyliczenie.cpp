@@ -147,14 +147,10 @@ Wynik modWyliczeniePlacy(core::Session& s, core::Dialogs& ui, const ZbioryListy&
             w.osoba = Record(Osoba::schema());
     }
     Record& O = w.osoba;
-    {
-        std::string pesel = O.s(Osoba::Pesel);
-        if (O.s(Osoba::DataUrodzenia).empty() && core::Len(pesel) == 11) {
-            // The month stays as coded in the number (above 12 for those born after 1999).
-            O.set(Osoba::DataUrodzenia, core::Mid(pesel, 5, 2) + "-" + core::Mid(pesel, 3, 2) + "-" +
-                                            (core::Mid(pesel, 3, 1) == "2" ? "20" : "19") + core::Mid(pesel, 1, 2));
-        }
-    }
+    // An empty birth date is built from the PESEL, the month as coded in the number (above 12
+    // for those born after 1999).
+    if (O.s(Osoba::DataUrodzenia).empty() && core::Len(O.s(Osoba::Pesel)) == 11)
+        O.set(Osoba::DataUrodzenia, personnel::dataUrodzeniaZPesel("", O.s(Osoba::Pesel)));
     const std::string grupa = O.s(Osoba::Grupa);
     const std::string grupaM = core::LCase(grupa);
 
