@@ -1,5 +1,7 @@
 #include "reference/mojafirma.h"
 
+#include <algorithm>
+
 #include "core/numbers.h"
 #include "core/paths.h"
 #include "core/text.h"

@@ -42,7 +42,7 @@ public:
                                    "N= nie upoważniony do wypłaty zasiłków ZUS , U = upoważniony"};
     core::Control cmdWstecz_{this, "cmdWstecz", core::Kind::CommandButton, "<< &Wstecz"};
     core::Control cmdNext_{this, "cmdNext", core::Kind::CommandButton, "&Następny >>"};
-    core::Control cmdZnajdz_{this, "cmdZnajdź", core::Kind::CommandButton, "&Znajdź"};
+    core::Control cmdZnajdz_{this, "cmdZnajdź", core::Kind::CommandButton, "Zn&ajdź"};
     core::Control cmdDodaj_{this, "cmdDodaj", core::Kind::CommandButton, "&Dodaj Płatnika"};
     core::Control cmdZmianyM_{this, "cmdZmianyM", core::Kind::CommandButton, "Zapisz &Zmiany"};
     core::Control cmdUsun_{this, "cmdUsuń", core::Kind::CommandButton, "&Usuń Płatnika"};
