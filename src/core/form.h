@@ -53,7 +53,7 @@ public:
     int Interval = 0;  // timer
 
     // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell. A multi-line text
-    // box shows Rows lines.
+    // box and a list box show Rows lines.
     int Rows = 0, Cols = 0, Row = 0, Col = 0;
     std::vector<std::vector<std::string>> Cells;
     std::vector<int> ColWidth;  // in characters
@@ -154,6 +154,7 @@ public:
     std::string Name;
     std::string Caption;
     ReportWords Words;
+    std::string ErrorTitle;  // the title of the error report box, when the screen gives one
     bool Unloaded = false;
     bool Visible = true;
     std::string FocusTo;

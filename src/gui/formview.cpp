@@ -210,6 +210,12 @@ QWidget* FormView::make(Control& c) {
     case Kind::ListBox: {
         auto* l = new QListWidget(this);
         if (c.Mono) l->setFont(monoFont());
+        {
+            // A width in characters and, in Rows, the number of lines shown.
+            QFontMetrics fm(l->font());
+            if (c.Width > 0) l->setMinimumWidth(fm.horizontalAdvance('0') * (c.Width + 4));
+            if (c.Rows > 0) l->setMinimumHeight(fm.lineSpacing() * (c.Rows + 1));
+        }
         connect(l, &QListWidget::currentRowChanged, this, [this, &c](int) {
             if (!busy_) run(c, &Control::Click);
         });

@@ -1,5 +1,6 @@
 #include "gui/routes.h"
 
+#include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "reference/screens.h"
 
@@ -8,6 +9,7 @@ namespace gui {
 void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
     payinputs::registerScreens(screens);
+    paycalc::registerScreens(screens);
 }
 
 }  // namespace gui
