@@ -1,11 +1,13 @@
 #include "gui/routes.h"
 
+#include "printing/screens.h"
 #include "reference/screens.h"
 
 namespace gui {
 
 void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
+    printing::registerScreens(screens);
 }
 
 }  // namespace gui
