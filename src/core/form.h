@@ -52,7 +52,8 @@ public:
     int ListIndex = -1;
     int Interval = 0;  // timer
 
-    // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell.
+    // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell. A multi-line text
+    // box shows Rows lines.
     int Rows = 0, Cols = 0, Row = 0, Col = 0;
     std::vector<std::vector<std::string>> Cells;
     std::vector<int> ColWidth;  // in characters
@@ -71,6 +72,9 @@ public:
     bool MultiLine = false;
     bool Password = false;
     std::string Parent;  // menus: the name of the drop-down holding this entry
+    // A Label control of the screen shown in the place of this control's label (a label whose
+    // caption the screen changes).
+    std::string LabelControl;
 
     // Events.
     std::function<void()> Click, DblClick, Change, KeyEnter, LostFocus, Tick;
@@ -96,6 +100,10 @@ public:
     }
     Control& tip(std::string t) {
         ToolTipText = std::move(t);
+        return *this;
+    }
+    Control& labelledBy(const Control& l) {
+        LabelControl = l.Name;
         return *this;
     }
     Control& under(std::string menu) {

@@ -33,6 +33,7 @@ struct Stawki {
     double fep = 0;                 // StaFEP / 100
     double Ubrent = 0;              // the rent rates after the halving, in percent
     double sklRentPrd = 0;
+    double Kasach = 0, stZDI = 0;   // the health rates in percent, as the health amounts use them
     double Stawka1 = 0, Stawka2 = 0, Stawka3 = 0;  // tax rates in percent
     double ProgI = 0, ProgII = 0;   // upper ends of the first and second brackets
     double KwotaUlgi = 0;
@@ -43,6 +44,18 @@ struct Stawki {
     float KwotaGRE = 0;
     float Trzynastka = 0;
     float KwPodstZDRwlasciciela = 0;
+};
+
+// The person screen (frmOsoba1) as the pay screens of the person see it: the values of its
+// controls when it opens another screen of that person, and the derived fraction of the post.
+struct EkranOsoby {
+    bool Otwarty = false;          // filled by the person screen (else read from the file)
+    std::string Etat, Etat2;       // numerator and denominator of the post (txtEtat, txtEtat2)
+    std::string Grupa;             // txtGrupa
+    std::string Obywatelstwo;      // the citizenship, "POLSKIE" for empty or "0"
+    std::string Paszport;          // txtPaszport
+    std::string DataZatrudnienia;  // TxtDataZatrudnienia, dd-mm-rrrr or empty
+    double UlamekEtatu = 0;        // numerator / denominator to two decimals (0 without a denominator)
 };
 
 struct Session {
@@ -61,10 +74,6 @@ struct Session {
     // The open pay list.
     std::string NazwaZbioru, NazwaListy, Grupa, NumerListy, Rezerwa4;
     std::filesystem::path SciezkaBazy, SciezkaOsob;
-    // Persons of the open list: set by frmlista on opening and by cmdKartoteka (the records of
-    // the month's ledger); the printed list takes its page total from it.
-    int LiczbaOsob = 0;
-
     // Printing: the mode (0 the pay list, 1 the payslips), the page counter, which runs on from
     // one print to the next in the same run of the program, and the kind word of the list head.
     int TrybDruku = 0;
@@ -73,6 +82,10 @@ struct Session {
 
     // The chosen employee.
     std::string KluczOsoby, NazwiskoOsoby, ImieOsoby, KodUbezpieczeniaOsoby;
+    EkranOsoby Osoba;
+    int LiczbaOsob = 0;  // the number of people on the open list
+    // "N" asks the pay screen to show the record again after it has made one.
+    std::string NowyZapis;
 
     // The payer (a record of MojaFirma.txt), the rates of the year (a record of Dane.dta) and
     // their derived values.

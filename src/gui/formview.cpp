@@ -98,6 +98,17 @@ void FormView::build() {
         if (c->kind != Kind::Menu) continue;
         if (!menuBar_) menuBar_ = new QMenuBar(this);
         if (c->Parent.empty()) {
+            // A drop-down without entries is a command of the menu bar itself.
+            bool hasEntries = false;
+            for (Control* e : form_.controls())
+                if (e->kind == Kind::Menu && e->Parent == c->Name) hasEntries = true;
+            if (!hasEntries) {
+                QAction* a = menuBar_->addAction(q(c->Caption));
+                a->setObjectName(q(c->Name));
+                actions_[c->Name] = a;
+                connect(a, &QAction::triggered, this, [this, c] { run(*c, &Control::Click); });
+                continue;
+            }
             QMenu* m = menuBar_->addMenu(q(c->Caption));
             m->setObjectName(q(c->Name));
             m->setToolTipsVisible(true);
@@ -116,8 +127,15 @@ void FormView::build() {
     // Frames before the controls inside them.
     for (Control* c : form_.controls())
         if (c->kind == Kind::Frame) place(*c, make(*c));
+    // Label controls shown as another control's label are placed with that control.
+    for (Control* c : form_.controls())
+        if (!c->LabelControl.empty()) buddies_.insert(c->LabelControl);
     for (Control* c : form_.controls()) {
         if (c->kind == Kind::Frame || c->kind == Kind::Menu) continue;
+        if (buddies_.count(c->Name)) {
+            if (!widget(c->Name)) make(*c);
+            continue;
+        }
         if (c->kind == Kind::Timer) {
             auto* t = new QTimer(this);
             t->setObjectName(q(c->Name));
@@ -143,6 +161,10 @@ QWidget* FormView::make(Control& c) {
     case Kind::TextBox:
         if (c.MultiLine) {
             auto* e = new QPlainTextEdit(this);
+            // A width in characters and, in Rows, the number of lines shown.
+            QFontMetrics fm(e->font());
+            if (c.Width > 0) e->setMinimumWidth(fm.horizontalAdvance('0') * (c.Width + 2));
+            if (c.Rows > 0) e->setMinimumHeight(fm.lineSpacing() * (c.Rows + 1));
             connect(e, &QPlainTextEdit::textChanged, this, [this, &c] {
                 if (!busy_) run(c, &Control::Change);
             });
@@ -283,6 +305,17 @@ void FormView::place(Control& c, QWidget* w) {
     next = std::max(next, row + 1);
     int col = c.LayoutSlot * 2;
     int span = c.LayoutSpan * 2;
+    if (!c.LabelControl.empty()) {
+        QWidget* l = widget(c.LabelControl);
+        if (!l) {
+            if (Control* lc = form_.find(c.LabelControl)) l = make(*lc);
+        }
+        if (l) {
+            g->addWidget(l, row, col, Qt::AlignRight | Qt::AlignVCenter);
+            g->addWidget(w, row, col + 1, 1, span - 1);
+            return;
+        }
+    }
     if (!c.Label.empty()) {
         auto* l = new QLabel(labelText(c.Label), this);
         l->setObjectName(q(c.Name + "_label"));

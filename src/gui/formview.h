@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <set>
 
 #include "core/form.h"
 
@@ -63,6 +64,7 @@ private:
     std::map<std::string, class QMenu*> menus_;
     std::map<std::string, QTimer*> timers_;
     std::map<std::string, QWidget*> labels_;
+    std::set<std::string> buddies_;
     bool busy_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "gui/routes.h"
 
+#include "payinputs/screens.h"
 #include "printing/screens.h"
 #include "reference/screens.h"
 
@@ -7,6 +8,7 @@ namespace gui {
 
 void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
+    payinputs::registerScreens(screens);
     printing::registerScreens(screens);
 }
 

@@ -178,7 +178,51 @@ std::filesystem::path path(const core::Session& s) {
 
 std::vector<core::Record> readAll(const std::filesystem::path& file) { return core::readAll(file, kSchema); }
 
+void renumber(std::vector<core::Record>& recs, const std::string& koniec) {
+    long numer = 0;
+    for (core::Record& r : recs) {
+        r.set(Poczatek, kPoczatek);
+        r.set(Koniec, koniec);
+        r.set(Numer, ++numer);
+    }
+}
+
+int replace(const std::filesystem::path& file, const std::string& klucz,
+            const std::function<void(core::Record&)>& change, const std::string& tempName, const std::string& koniec) {
+    std::vector<core::Record> recs = readAll(file);
+    int matched = 0;
+    for (core::Record& r : recs) {
+        if (kluczOsoby(r) != klucz) continue;
+        change(r);
+        ++matched;
+    }
+    renumber(recs, koniec);
+    core::writeAll(file, recs, tempName);
+    return matched;
+}
+
 }  // namespace Pay
+
+core::Record nowyRekordPlacowy(double stawka1, int numer) {
+    using namespace Pay;
+    core::Record r(schema());
+    // Variants that hold amounts, days or percents start as a bare 0; the others as "".
+    static const int kLiczby[] = {
+        ROR, ZFMPozyczka, KZPWklady, KZPpozyczka, Zasilek1, Zasilek2, Zasilek3, Zasilek4, Zasilek5, Zasilek6,
+        SredniaCH1, Liczbadni1, Ch1Pr, SredniaCH2, Liczbadni2, Ch2Pr, SredniaCH3, Liczbadni3, Ch3Pr, SredniaCH4,
+        Liczbadni4, Ch4Pr, KwotaCh1, KwotaCh2, KwotaCh3, KwotaCh4, Rezerwa89, BZP3dni, Rezerwa106, BZP1dni,
+        BZP2dni, SredniaChorobowa, DniChorobyOd01, BruttoOd01, EFPomostowy};
+    for (int n = 1; n <= Count; ++n)
+        if (schema().fields[n - 1].type == FieldType::Variant) r.set(n, std::string());
+    for (int n : kLiczby) r.set(n, 0L);
+    r.set(Poczatek, "<Poczatek>");
+    r.set(Koniec, "<Koniec>");
+    r.set(ZastosStaPOD, stawka1 / 100);
+    for (int n : {Rentowa, Emerytalna, Chorobowa, Zdrowotna, Wypadkowa}) r.set(n, 1L);
+    r.set(Obywatelstwo, "POLSKIE");
+    r.set(Numer, static_cast<long>(numer));
+    return r;
+}
 
 std::string kluczOsoby(const core::Record& p) {
     return personnel::kluczOsoby(p.s(Pay::Obywatelstwo), p.s(Pay::Pesel), p.s(Pay::Dokument));

@@ -1,6 +1,8 @@
 // The pay record of a list: bazy\<list>.dta, records of 155 items, one item a line.
 #pragma once
 #include <filesystem>
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "core/record.h"
@@ -33,7 +35,27 @@ const core::Schema& schema();
 // bazy\<NazwaZbioru>.dta of the session's payer (SciezkaBazy when it is set).
 std::filesystem::path path(const core::Session& s);
 std::vector<core::Record> readAll(const std::filesystem::path& file);
+
+// The markers every writer puts at the two ends of a record.
+inline constexpr const char* kPoczatek = "<Poczatek>";
+inline constexpr const char* kKoniec = "<Koniec>";
+// Readies records for writing back: each gets the markers (`koniec` as its end marker) and its
+// running number in the file, counted from 1 (Error 6 past the 16-bit range).
+void renumber(std::vector<core::Record>& recs, const std::string& koniec = kKoniec);
+// The rewrite of every pay-file writer: reads the whole file, applies `change` to each record
+// whose identifier (kluczOsoby) is `klucz`, renumbers and marks all records, and writes the file
+// back through `tempName` in its folder. Returns how many records matched. A failure leaves the
+// file as it was.
+int replace(const std::filesystem::path& file, const std::string& klucz,
+            const std::function<void(core::Record&)>& change, const std::string& tempName,
+            const std::string& koniec = kKoniec);
 }  // namespace Pay
+
+// A new pay record as the pay screen makes it: the markers "<Poczatek>" and "<Koniec>", every
+// amount 0 (the numeric variants bare 0), every date, flag and text "", `ZastosStaPOD` the
+// first tax rate (in percent) / 100, the five contribution switches 1, `Obywatelstwo`
+// "POLSKIE", `Numer` as given.
+core::Record nowyRekordPlacowy(double stawka1, int numer);
 
 // The identifier of a pay record: Pesel, or Dokument for a citizenship other than Polish
 // (the rule of the personnel file).

@@ -1,0 +1,19 @@
+#include "payinputs/screens.h"
+
+#include "payinputs/potracenia.h"
+#include "payinputs/zasilki.h"
+
+namespace payinputs {
+
+void registerScreens(core::Screens& screens) {
+    screens.add("frmPotracenia", [](core::Session& s, core::Dialogs& d) {
+        PotraceniaScreen f(d, s);
+        d.showForm(f);
+    });
+    screens.add("frmZasilki", [](core::Session& s, core::Dialogs& d) {
+        ZasilkiScreen f(d, s);
+        d.showForm(f);
+    });
+}
+
+}  // namespace payinputs
