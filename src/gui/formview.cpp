@@ -292,7 +292,7 @@ void FormView::place(Control& c, QWidget* w) {
     QGridLayout* g = it == containers_.end() ? grid_ : it->second;
     int& next = nextRow_[c.Container];
     int row = c.LayoutRow >= 0 ? c.LayoutRow : next;
-    next = std::max(next, row + 1);
+    next = std::max(next, row + std::max(1, c.LayoutRowSpan));
     int col = c.LayoutSlot * 2;
     int span = c.LayoutSpan * 2;
     if (!c.LabelControl.empty()) {
@@ -320,7 +320,7 @@ void FormView::place(Control& c, QWidget* w) {
         g->addWidget(l, row, col, Qt::AlignRight | Qt::AlignVCenter);
         g->addWidget(w, row, col + 1, 1, span - 1);
     } else {
-        g->addWidget(w, row, col, 1, span);
+        g->addWidget(w, row, col, std::max(1, c.LayoutRowSpan), span);
     }
 }
 
