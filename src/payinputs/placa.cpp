@@ -128,7 +128,7 @@ PlacaScreen::PlacaScreen(core::Dialogs& ui, core::Session& session)
     txt(Pay::KosztyUzyskania).tip("Kliknięcie wpisuje koszty uzyskania ze stawek roku");
     txt(Pay::KwotaUlgi).tip("Kliknięcie wpisuje kwotę ulgi ze stawek roku");
     txt(Pay::Premia).tip("Kwota albo, poniżej 1, ułamek płacy zasadniczej");
-    cmbRodzajUmowy.in("fraZatrudnienie").at(wiersz[2]++, 0).label("Rodzaj umowy");
+    cmbRodzajUmowy.in("fraZatrudnienie").at(wiersz[2]++, 0, 2).label("Rodzaj umowy").width(18);
     for (const char* u : kRodzajeUmowy) cmbRodzajUmowy.AddItem(u);
     fraStazowy.in("fraZatrudnienie").at(wiersz[2]++, 0, 2);
     Option1.in("fraStazowy").at(0, 0);

@@ -71,8 +71,8 @@ Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session) : Form(ui,
     TxtDataZatrudnienia.in("fraZatrudnienie").at(r++, 0).label("Data zatrudnienia").width(10).tip("dd-mm-rrrr");
     txtGrupa.in("fraZatrudnienie").at(r++, 0).label("Grupa").width(2).tip(
         "Nauczyciele =n , administracja =a , produkcja =p , umowy zlecenia =u");
-    txtEtat.in("fraZatrudnienie").at(r, 0).label("Etat").width(3).tip("Licznik wymiaru etatu, np. 1 z 2 dla pół etatu");
-    txtEtat2.in("fraZatrudnienie").at(r++, 1).label("/").width(3).tip("Mianownik wymiaru etatu");
+    txtEtat.in("fraZatrudnienie").at(r++, 0).label("Etat - licznik").width(3).tip("Licznik wymiaru etatu, np. 1 dla pół etatu (1/2)");
+    txtEtat2.in("fraZatrudnienie").at(r++, 0).label("Etat - mianownik").width(3).tip("Mianownik wymiaru etatu, np. 2 dla pół etatu (1/2)");
     lbUlamekEtatu.in("fraZatrudnienie").at(r++, 0, 2).label("Wymiar etatu");
     txtWskaznikFP.in("fraZatrudnienie").at(r++, 0).label("Fundusz Pracy").width(2).tip(
         "Automat oznacza wyłaczenie FP przy Podstawie mniejszej jak Najniższe wynagrodzenie");

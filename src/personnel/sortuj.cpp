@@ -23,7 +23,7 @@ const char* const kNaglowki[SortujKadroweScreen::kKolumny] = {
     "Poczta", "Rezerwa", "Paszport", "Mail", "Komórka", "Skr.poczt.", "Nr.Ubezp.", "Obywatelstwo", "DataZatrud",
     "FP", "Nr Id", "FGŚP", "Status", "Numer"};
 
-const int kSzerokosci[SortujKadroweScreen::kKolumny] = {6,  24, 14, 12, 11, 11, 11, 7,  6,  10, 14, 10, 10, 6,
+const int kSzerokosci[SortujKadroweScreen::kKolumny] = {6,  24, 14, 12, 11, 11, 11, 8,  9,  10, 14, 10, 10, 6,
                                                        16, 16, 6,  5,  14, 14, 14, 6,  5,  12, 24, 20, 14, 6,
                                                        10, 20, 12, 8,  10, 12, 21, 3,  5,  4,  5,  5};
 
@@ -68,7 +68,7 @@ SortujKadroweScreen::SortujKadroweScreen(core::Dialogs& ui, core::Session& sessi
     : Form(ui, "frmSortujKadrowe", "Sortowanie zbioru "), s(session) {
     lbOpis.at(0, 0, 4);
     lbOpis.Caption = "Podwójne kliknięcie w nazwisko pozwala wpisać nowy numer kolejny pracownika.";
-    MSFlexGrid7.at(1, 0, 4);
+    MSFlexGrid7.at(1, 0, 4).width(140);
     CmdSortujIP_.at(2, 0);
     CmdSortujwgNazwiska_.at(2, 1);
     cmdZapiszPosortowane_.at(2, 2);
