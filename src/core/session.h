@@ -33,6 +33,7 @@ struct Stawki {
     double fep = 0;                 // StaFEP / 100
     double Ubrent = 0;              // the rent rates after the halving, in percent
     double sklRentPrd = 0;
+    double Kasach = 0, stZDI = 0;   // the health rates in percent, as the health amounts use them
     double Stawka1 = 0, Stawka2 = 0, Stawka3 = 0;  // tax rates in percent
     double ProgI = 0, ProgII = 0;   // upper ends of the first and second brackets
     double KwotaUlgi = 0;

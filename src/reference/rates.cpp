@@ -92,8 +92,10 @@ core::Stawki deriveRates(const core::Record& dane, float payerAccidentRate) {
     st.rentowaPracodawca = st.sklRentPrd / 100;
     st.emerytalna = num(Ubemer) / 200;
     st.chorobowa = num(UbChor) / 100;
-    st.zdrowotna = num(Kasach) / 100;
-    st.zdrowotnaInd = num(stZDI) / 100;
+    st.Kasach = num(Kasach);
+    st.stZDI = num(stZDI);
+    st.zdrowotna = st.Kasach / 100;
+    st.zdrowotnaInd = st.stZDI / 100;
     st.wypadkowa = payerAccidentRate > 0 ? payerAccidentRate / 100.0 : num(UbWypad) / 100;
     st.funduszPracy = num(FuPr) / 100;
     st.fgsp = num(FGSP) / 100;
