@@ -1,6 +1,7 @@
 #include "gui/routes.h"
 
 #include "payinputs/screens.h"
+#include "personnel/screens.h"
 #include "printing/screens.h"
 #include "reference/screens.h"
 
@@ -8,6 +9,7 @@ namespace gui {
 
 void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
+    personnel::registerScreens(screens);
     payinputs::registerScreens(screens);
     printing::registerScreens(screens);
 }
