@@ -7,6 +7,7 @@
 #include "core/paths.h"
 #include "payinputs/pay_record.h"
 #include "personnel/person_record.h"
+#include "reference/payers.h"
 #include "reference/rates.h"
 
 namespace Pay = payinputs::Pay;
@@ -110,6 +111,24 @@ Lista::Lista(const std::string& dataListy) {
     std::vector<core::Record> lata;
     for (int rok : {2008, 2009, 2019, 2020}) lata.push_back(stawkiRoku(rok));
     core::writeAll(Dane::path(s), lata);
+}
+
+void Lista::zmienStawke(int rok, int pole, const std::string& wartosc) {
+    auto lata = core::readAll(Dane::path(s), Dane::schema());
+    for (auto& r : lata)
+        if (r.s(Dane::Rok) == std::to_string(rok)) r.set(pole, wartosc);
+    core::writeAll(Dane::path(s), lata);
+}
+
+void Lista::dlaWierszaPolecen() {
+    core::Session inst = s;
+    inst.Katalog = ".";
+    inst.Haslo = "test";
+    core::Instalka::write(dir.path(), inst.instalkaRecord());
+    core::Record firma(reference::Firma::schema());
+    firma.set(reference::Firma::SkrotPlatnika, "FIRMA");
+    firma.set(reference::Firma::NazwaM, "Firma Testowa");
+    reference::Firma::writeAll(reference::Firma::path(s), {firma});
 }
 
 core::Record& Lista::dodaj(const std::string& pesel, float zasadnicza, const std::string& urodzony, const std::string& imie) {
