@@ -63,8 +63,7 @@ core::Record stawkiRoku(int rok) {
 }
 
 core::Record placa(const std::string& pesel, float zasadnicza, const std::string& nazwisko, const std::string& imie) {
-    core::Record p(Pay::schema());
-    p.set(Pay::Poczatek, "<Poczatek>");
+    core::Record p = payinputs::nowyRekordPlacowy(18, 1);
     p.set(Pay::Nazwisko, nazwisko);
     p.set(Pay::Imie, imie);
     p.set(Pay::Pesel, pesel);
@@ -73,20 +72,15 @@ core::Record placa(const std::string& pesel, float zasadnicza, const std::string
     p.set(Pay::DataZatrudnienia, "01/02/2007");
     p.set(Pay::KosztyUzyskania, 111.25f);
     p.set(Pay::KwotaUlgi, 46.33f);
-    p.set(Pay::ZastosStaPOD, 0.18f);
-    p.set(Pay::Obywatelstwo, "POLSKIE");
     p.set(Pay::Grupa, "a");
-    for (int sw : {Pay::Wypadkowa, Pay::Rentowa, Pay::Emerytalna, Pay::Chorobowa, Pay::Zdrowotna}) p.set(sw, 1L);
     p.set(Pay::WskaznikEtatu, 1.0f);
     p.set(Pay::RodzajUmowy, "Umowa o prace");
-    p.set(Pay::Koniec, "<Koniec>");
     return p;
 }
 
 core::Record osoba(const std::string& pesel, const std::string& urodzony, const std::string& nazwisko,
                    const std::string& imie) {
-    core::Record o(Osoba::schema());
-    o.set(Osoba::Poczatek, "<Poczatek>");
+    core::Record o = Osoba::pusty();
     o.set(Osoba::Nazwisko, nazwisko);
     o.set(Osoba::Imie, imie);
     o.set(Osoba::Pesel, pesel);
@@ -95,9 +89,8 @@ core::Record osoba(const std::string& pesel, const std::string& urodzony, const 
     o.set(Osoba::Etat, "  1  1");
     o.set(Osoba::Grupa, "a");
     o.set(Osoba::Obywatelstwo, "POLSKIE");
-    o.set(Osoba::DataZatrudnienia, "01-02-2007X          ");
+    o.set(Osoba::DataZatrudnienia, std::string("01-02-2007") + Osoba::kZnacznikDaty);
     o.set(Osoba::Status, 1L);
-    o.set(Osoba::Koniec, "<koniec>");
     return o;
 }
 

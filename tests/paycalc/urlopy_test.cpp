@@ -113,12 +113,27 @@ TEST(LeaveFile, LeaveOfTheListsMonth) {
         SCOPED_TRACE(c.name);
         std::vector<Urlop::Blok> v = {blok("70051512345", "1")};
         c.set(v);
-        UrlopMiesiaca u = urlopMiesiaca(v, "70051512345", c.miesiac);
-        EXPECT_EQ(u.znaleziony, c.znaleziony);
-        EXPECT_EQ(u.DniUrlopu, c.dni);
-        EXPECT_EQ(u.Stawka, c.stawka);
-        EXPECT_EQ(u.wUrlopowe, c.kwota);
+        // From the blocks, and from the file read once for a whole list: the same leave.
+        UrlopyMiesiaca raz(c.miesiac);
+        for (const auto& b : v) raz.dodaj(b);
+        for (UrlopMiesiaca u : {urlopMiesiaca(v, "70051512345", c.miesiac), raz.znajdz("70051512345")}) {
+            EXPECT_EQ(u.znaleziony, c.znaleziony);
+            EXPECT_EQ(u.DniUrlopu, c.dni);
+            EXPECT_EQ(u.Stawka, c.stawka);
+            EXPECT_EQ(u.wUrlopowe, c.kwota);
+        }
     }
+}
+
+TEST(LeaveFile, BrokenFileReadOnce) {
+    UrlopyMiesiaca raz(3);
+    Urlop::Blok b = blok("70051512345", "1");
+    stawka(b, 3, "100");
+    kod(b, 3, 2, "U8");
+    raz.dodaj(b);
+    raz.przerwano(core::Error(core::err::InputPastEnd, "Urlopy"));
+    EXPECT_EQ(raz.znajdz("70051512345").DniUrlopu, 1);  // before the fault
+    EXPECT_THROW(raz.znajdz("60010112345"), core::Error);
 }
 
 TEST(LeaveFile, ModUrlopReadsTheFileOfTheYear) {
