@@ -52,7 +52,8 @@ public:
     int ListIndex = -1;
     int Interval = 0;  // timer
 
-    // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell.
+    // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell. A multi-line text
+    // box shows Rows lines.
     int Rows = 0, Cols = 0, Row = 0, Col = 0;
     std::vector<std::vector<std::string>> Cells;
     std::vector<int> ColWidth;  // in characters

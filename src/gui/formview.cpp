@@ -160,6 +160,10 @@ QWidget* FormView::make(Control& c) {
     case Kind::TextBox:
         if (c.MultiLine) {
             auto* e = new QPlainTextEdit(this);
+            // A width in characters and, in Rows, the number of lines shown.
+            QFontMetrics fm(e->font());
+            if (c.Width > 0) e->setMinimumWidth(fm.horizontalAdvance('0') * (c.Width + 2));
+            if (c.Rows > 0) e->setMinimumHeight(fm.lineSpacing() * (c.Rows + 1));
             connect(e, &QPlainTextEdit::textChanged, this, [this, &c] {
                 if (!busy_) run(c, &Control::Change);
             });

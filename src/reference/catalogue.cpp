@@ -82,6 +82,11 @@ ListaWybrana parseDisplayLine(const std::string& line) {
     return w;
 }
 
+void brakPlatnika(core::Dialogs& ui) {
+    ui.msgBox("Nie wybrano Płatnika ! Wybierz >Instalacyjne >Dane Płatnika! ", core::Buttons::OK,
+              core::Icon::Exclamation, "Brak danych Płatnika");
+}
+
 std::string badListStem(const std::string& stem) {
     return badName(core::RTrim(core::Left(stem, Instal::kSzerSkrotu)), "Skrót listy (nazwa jej plików)");
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/dialogs.h"
 #include "core/record.h"
 #include "core/session.h"
 
@@ -53,6 +54,9 @@ struct ListaWybrana {
     std::string title, stem, group;
 };
 ListaWybrana parseDisplayLine(const std::string& line);
+
+// The box of a payer without its folder: "Nie wybrano Płatnika ! ..." titled "Brak danych Płatnika".
+void brakPlatnika(core::Dialogs& ui);
 
 // Why a text cannot be the file stem of a list (empty, a folder part, characters the file
 // system or the catalogue cannot hold), or "" when it can.

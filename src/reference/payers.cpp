@@ -1,6 +1,11 @@
 #include "reference/payers.h"
 
+#include "core/error.h"
 #include "core/paths.h"
+#include "core/text.h"
+#include "reference/catalogue.h"
+#include "reference/names.h"
+#include "reference/rates.h"
 
 namespace fs = std::filesystem;
 using core::FieldType;
@@ -51,6 +56,78 @@ bool selectPayer(core::Session& s) {
     }
     s.Firma = recs.back();
     return true;
+}
+
+std::vector<core::Record> readPayers(const core::Session& s) {
+    fs::path file = Firma::path(s);
+    if (!core::fileExists(file)) return {};
+    return Firma::readAll(file);
+}
+
+int findPayer(const std::vector<core::Record>& recs, const std::string& skrot) {
+    for (std::size_t i = 0; i < recs.size(); ++i)
+        if (recs[i].s(Firma::SkrotPlatnika) == skrot) return static_cast<int>(i);
+    return static_cast<int>(recs.size()) - 1;
+}
+
+const char* const kPayerTree[25] = {"Bazy",    "Karta",   "Person",     "Archiwum",    "Dodatki",      "Dokumenty",
+                                    "Godziny", "Homenet", "Jubileu",    "Kdu",         "Kontrah",      "Ksimail",
+                                    "Pit4",    "Pit11",   "Pit8b",      "Platnik",     "Przelewy",     "Sumy",
+                                    "ROR",     "Trzynastki", "Urlopy",  "Zus",         "Kopia",        "Zgloszeniowe",
+                                    "Potwierdzenia"};
+
+fs::path makePayerTree(const fs::path& katalog, const std::string& skrot) {
+    fs::path folder = core::ensureFolder(katalog, {skrot});
+    for (const char* sub : kPayerTree) core::ensureFolder(folder, {sub});
+    fs::path wzor = core::resolvePath(katalog, {"dane", "wzorc.kdu"});
+    fs::path cel = core::resolvePath(folder, {"Zus", "wzorc.kdu"});
+    if (core::fileExists(wzor) && !core::fileExists(cel)) {
+        // Copied byte for byte through a temporary file, so that a break leaves no half template.
+        fs::path tmp = cel.parent_path() / "wzorc.kdu~";
+        std::error_code ec;
+        fs::copy_file(wzor, tmp, fs::copy_options::overwrite_existing, ec);
+        if (!ec) fs::rename(tmp, cel, ec);
+        if (ec) {
+            fs::remove(tmp, ec);
+            throw core::Error(core::err::PathFileAccess, cel.string(), "nie można skopiować wzorca " + wzor.string());
+        }
+    }
+    return folder;
+}
+
+std::string badPayerName(const std::string& skrot, const fs::path& katalog, const std::vector<core::Record>& recs) {
+    std::string why = badName(skrot, "Skrót Płatnika");
+    if (!why.empty()) return why;
+    const std::string up = core::UCase(skrot);
+    if (up == "DANE") return "Skrót Płatnika nie może brzmieć \"" + skrot + "\" - tak nazywa się folder stawek programu.";
+    for (const auto& r : recs)
+        if (core::UCase(r.s(Firma::SkrotPlatnika)) == up)
+            return "Płatnik o skrócie \"" + r.s(Firma::SkrotPlatnika) + "\" jest już w rejestrze.";
+    fs::path there = core::resolvePath(katalog, {skrot});
+    std::error_code ec;
+    if (fs::exists(there, ec) && !fs::is_directory(there, ec))
+        return "W folderze danych jest już plik o nazwie \"" + there.filename().string() +
+               "\" - skrót Płatnika musi być inny.";
+    return {};
+}
+
+void choosePayer(core::Session& s, const core::Record& payer) {
+    s.Firma = payer;
+    s.SkrotPlatnika = payer.s(Firma::SkrotPlatnika);
+    core::Record inst = core::Instalka::read(s.katalog());
+    if (inst.s(core::Instalka::SkrotPlatnika) != s.SkrotPlatnika) {
+        inst.set(core::Instalka::SkrotPlatnika, s.SkrotPlatnika);
+        core::Instalka::write(s.katalog(), inst, "tym.dta");
+    }
+    if (s.Zestaw.empty()) s.Zestaw = "A";
+    fs::path folder = s.payerFolder();
+    std::error_code ec;
+    if (!fs::is_directory(folder, ec))
+        throw core::Error(core::err::PathNotFound, (folder / "instal.dat").string(),
+                          "brak folderu Płatnika " + folder.string());
+    fs::path lists = Instal::path(s);
+    if (!core::fileExists(lists)) core::commitFile(lists, std::string(), "tymcz.dat");
+    loadRates(s);
 }
 
 }  // namespace reference

@@ -1,11 +1,16 @@
 #include "reference/place.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <ctime>
 
 #include "core/numbers.h"
 #include "core/paths.h"
 #include "core/text.h"
+#include "reference/mojafirma.h"
 #include "reference/payers.h"
+#include "reference/pomoc.h"
 #include "reference/rates.h"
 
 namespace fs = std::filesystem;
@@ -105,6 +110,9 @@ PlaceScreen::PlaceScreen(core::Dialogs& ui, core::Session& session)
     Label4.at(9, 0);
     cmdKoniec_.at(9, 1);
     tmCzas.Interval = 1000;
+    lbKopia.at(10, 0, 2);
+    prbKopia.at(11, 0, 2);
+    lbKopia.Visible = prbKopia.Visible = false;
 
     cmdPotwierdz_.Click = [this] { cmdPotwierdz(); };
     txtDataListyS.KeyEnter = [this] { cmdPotwierdz(); };
@@ -117,15 +125,35 @@ PlaceScreen::PlaceScreen(core::Dialogs& ui, core::Session& session)
     tmCzas.Tick = [this] { tmCzas_Timer(); };
 }
 
+namespace {
+
+// The entries that run a utility of the main window itself.
+struct Utility {
+    const char* name;
+    void (PlaceScreen::*run)();
+};
+const Utility kUtilities[] = {
+    {"Has_o", &PlaceScreen::Has_o},          {"Sciezka", &PlaceScreen::Sciezka}, {"mnuWybórList", &PlaceScreen::mnuWyborList},
+    {"Drukarki", &PlaceScreen::Drukarki},    {"Kopia", &PlaceScreen::Kopia},     {"calc", &PlaceScreen::calc},
+    {"mnuNotatnik", &PlaceScreen::mnuNotatnik}, {"Data", &PlaceScreen::Data},    {"Czas", &PlaceScreen::Czas},
+    {"pomoc", &PlaceScreen::pomoc},
+};
+
+const Utility* utility(const std::string& name) {
+    for (const Utility& u : kUtilities)
+        if (name == u.name) return &u;
+    return nullptr;
+}
+
+}  // namespace
+
 void PlaceScreen::addMenu(const std::string& name, const std::string& caption, const std::string& parent) {
     auto c = std::make_unique<core::Control>(this, name, Kind::Menu, caption);
     c->Parent = parent;
     core::Control* raw = c.get();
     if (!parent.empty()) {
-        if (name == "Has_o")
-            raw->Click = [this] { Has_o(); };
-        else if (name == "Sciezka")
-            raw->Click = [this] { Sciezka(); };
+        if (const Utility* u = utility(name))
+            raw->Click = [this, u] { (this->*(u->run))(); };
         else
             raw->Click = [this, name] {
                 this->ui.open(name, s);
@@ -138,7 +166,7 @@ void PlaceScreen::addMenu(const std::string& name, const std::string& caption, c
 void PlaceScreen::refreshMenu() {
     for (auto& m : menu) {
         if (m->Parent.empty()) continue;
-        if (m->Name == "Has_o" || m->Name == "Sciezka") {
+        if (utility(m->Name)) {
             m->Enabled = true;
         } else if (notInThisVersion(m->Name)) {
             m->Enabled = false;
@@ -164,6 +192,19 @@ void PlaceScreen::readRates() {
 void PlaceScreen::refreshPayer() {
     if (s.Firma.valid()) lbPlatnik.Caption = s.Firma.s(Firma::SkrotPlatnika);
     txtZestaw.Text = s.Zestaw;
+    if (s.Dane.valid()) lbAdministrator.Caption = administrator(s.Dane);
+    if (!s.Katalog.empty()) setCaption();
+}
+
+void PlaceScreen::wybierzPlatnika() {
+    MojaFirmaScreen hidden(ui, s);
+    hidden.Visible = false;
+    hidden.Load();
+    if (hidden.Biezacy >= 0)
+        hidden.cmdKoniecM();
+    else
+        readRates();
+    refreshPayer();
 }
 
 void PlaceScreen::Load() {
@@ -199,10 +240,7 @@ void PlaceScreen::Load() {
     setOkres();
     if (!noFolder) {
         // 8., 11. The payer, then the rates again with its own accident rate.
-        guarded([&] {
-            selectPayer(s);
-            readRates();
-        });
+        guarded([&] { wybierzPlatnika(); });
         // 9.
         cmdAkceptuj_.Visible = false;
     }
@@ -299,9 +337,7 @@ void PlaceScreen::cmdAkceptuj() {
         readRates();
         drvStacjaDyskow.Visible = dirFolder.Visible = cmdAkceptuj_.Visible = false;
         setOkres();
-        selectPayer(s);
-        readRates();
-        refreshPayer();
+        wybierzPlatnika();
     });
 }
 
@@ -335,6 +371,242 @@ void PlaceScreen::tmCzas_Timer() {
     char buf[16];
     std::snprintf(buf, sizeof buf, "%02d:%02d:%02d", tm.tm_hour, tm.tm_min, tm.tm_sec);
     lbGodzina.Caption = buf;
+}
+
+void PlaceScreen::mnuWyborList() {
+    Answer a = ui.msgBox("Aktualny zestaw zbiorów do przetwarzania! -> " + s.Zestaw + " <- Czy dokonać zmian ?",
+                         Buttons::YesNo, Icon::Question, "Zmiana zestawu list do zbiorówek");
+    if (a != Answer::Yes) return;
+    auto typed = ui.inputBox(" Wprowadź symbol zestawu do przetwarzania np.(A) lub (B) ", "Zmiana zestawu list do zbiorówek",
+                             s.Zestaw);
+    if (!typed) return;
+    // The set letters of the catalogue are kept in upper case, and so are these.
+    std::string zestaw = core::UCase(core::Trim(*typed));
+    if (zestaw.empty()) return;
+    if (zestaw.find('"') != std::string::npos) {
+        ui.msgBox("Symbol zestawu nie może zawierać cudzysłowu. Zestawu nie zmieniono.", Buttons::OK, Icon::Exclamation,
+                  "Zmiana zestawu list do zbiorówek");
+        return;
+    }
+    guarded([&] {
+        core::Record r = core::Instalka::read(s.katalog());
+        r.set(core::Instalka::Zestaw, zestaw);
+        core::Instalka::write(s.katalog(), r, "tym.dta");
+        s.Zestaw = zestaw;
+        txtZestaw.Text = zestaw;
+    });
+}
+
+namespace {
+
+std::string nazwaDrukarki(const std::string& kind) {
+    std::string k = core::UCase(core::Trim(kind));
+    if (k == "I") return "Igłowa";
+    if (k == "A") return "Atramentowa";
+    if (k == "L") return "Laserowa";
+    return "nieustalona";
+}
+
+}  // namespace
+
+void PlaceScreen::Drukarki() {
+    guarded([&] {
+        core::Record r = core::Instalka::read(s.katalog());
+        std::string name = nazwaDrukarki(r.s(core::Instalka::Drukarka));
+        ui.msgBox(name, Buttons::OK, Icon::Information, "Zmiana przyłaczonej drukarki");
+        auto typed = ui.inputBox("Podaj rodzaj przyłączonej drukarki        A=atramentowa,I=igłowa,L=laserowa",
+                                 " Aktualnie przyłączona = " + name, r.s(core::Instalka::Drukarka));
+        if (!typed) return;
+        std::string kind = core::UCase(core::Trim(*typed));
+        if (kind != "A" && kind != "I" && kind != "L") {
+            ui.msgBox("Nieznany rodzaj drukarki \"" + *typed + "\" - wpisz A, I lub L. Ustawienia nie zmieniono.",
+                      Buttons::OK, Icon::Exclamation, "Zmiana przyłaczonej drukarki");
+            return;
+        }
+        r.set(core::Instalka::Drukarka, kind);
+        core::Instalka::write(s.katalog(), r, "tym.dta");
+        s.Drukarka = kind;
+    });
+}
+
+void PlaceScreen::Kopia() {
+    const std::string title = "Wykonanie całkowitej kopii programu wraz z danymi";
+    auto typed = ui.inputBox("Podaj gdzie wykonać archiwizacje np. d:\\Tesmar", title);
+    std::string where = core::Trim(typed.value_or(""));
+    if (where.empty()) {
+        ui.msgBox("Nie ustalono folderu docelowego !", Buttons::OK, Icon::Exclamation, title);
+        return;
+    }
+    std::error_code ec;
+    fs::path source = fs::weakly_canonical(fs::absolute(s.katalog()), ec);
+    fs::path typedPath(where);
+    fs::path target = fs::weakly_canonical(typedPath.is_relative() ? fs::absolute(s.WorkDir) / typedPath : typedPath, ec);
+    // The copy must not land inside what it copies.
+    auto [endSrc, endTgt] = std::mismatch(source.begin(), source.end(), target.begin(), target.end());
+    if (endSrc == source.end()) {
+        ui.msgBox("Folder docelowy " + target.string() + " leży wewnątrz folderu danych " + source.string() +
+                      " - kopia nie może powstać w kopiowanym folderze. Podaj folder poza nim, np. na innym dysku.",
+                  Buttons::OK, Icon::Exclamation, title);
+        return;
+    }
+    if (fs::exists(target, ec) && !fs::is_directory(target, ec)) {
+        ui.msgBox("Pod nazwą " + target.string() + " jest plik, a nie folder. Podaj inny folder docelowy.", Buttons::OK,
+                  Icon::Exclamation, title);
+        return;
+    }
+    if (fs::is_directory(target, ec) && !fs::is_empty(target, ec)) {
+        if (ui.msgBox("Folder " + target.string() +
+                          " nie jest pusty. Pliki o tych samych nazwach zostaną zastąpione kopią. Czy kontynuować?",
+                      Buttons::YesNo, Icon::Question, title) != Answer::Yes)
+            return;
+    }
+    guarded([&] {
+        // What is to be copied, counted first for the progress bar.
+        std::vector<fs::directory_entry> entries;
+        for (auto it = fs::recursive_directory_iterator(source); it != fs::recursive_directory_iterator(); ++it)
+            entries.push_back(*it);
+        int files = 0;
+        for (const auto& e : entries)
+            if (e.is_regular_file()) ++files;
+        lbKopia.Caption = " Prosze czekać wykonuję kopie całkowitą Tesmar do wybranego folderu ";
+        lbKopia.Visible = prbKopia.Visible = true;
+        prbKopia.Min = 0;
+        prbKopia.Max = std::max(files, 1);
+        prbKopia.Value = 0;
+        DoEvents();
+        struct Hide {
+            PlaceScreen* p;
+            ~Hide() { p->lbKopia.Visible = p->prbKopia.Visible = false; }
+        } hide{this};
+        try {
+            fs::create_directories(target);
+            for (const auto& e : entries) {
+                fs::path to = target / fs::relative(e.path(), source);
+                if (e.is_directory()) {
+                    fs::create_directories(to);
+                } else if (e.is_regular_file()) {
+                    fs::copy_file(e.path(), to, fs::copy_options::overwrite_existing);
+                    ++prbKopia.Value;
+                    DoEvents();
+                }
+            }
+        } catch (const fs::filesystem_error& e) {
+            throw core::Error(core::err::PathFileAccess, e.path1().string(),
+                              "kopia przerwana: " + std::string(e.code().message()));
+        }
+        ui.msgBox("Kopia całkowita Tesmar została wykonana w katalogu " + target.string(), Buttons::OK,
+                  Icon::Information, title);
+    });
+}
+
+void PlaceScreen::uruchom(const std::vector<std::string>& programs, const std::vector<std::string>& args,
+                          const std::string& title, const std::string& what) {
+    std::string program = pulpit.find(programs);
+    if (program.empty()) {
+        std::string list;
+        for (const auto& p : programs) list += (list.empty() ? "" : ", ") + p;
+        ui.msgBox("Nie znaleziono w systemie programu: " + what + " (szukano: " + list +
+                      "). Poproś administratora o zainstalowanie jednego z nich.",
+                  Buttons::OK, Icon::Exclamation, title);
+        return;
+    }
+    std::vector<std::string> argv{program};
+    argv.insert(argv.end(), args.begin(), args.end());
+    if (!pulpit.start(argv))
+        ui.msgBox("Nie udało się uruchomić programu " + program + ".", Buttons::OK, Icon::Exclamation, title);
+}
+
+void PlaceScreen::calc() { uruchom(kKalkulatory, {}, "Kalkulator", "kalkulator"); }
+
+void PlaceScreen::mnuNotatnik() {
+    guarded([&] {
+        // The notes of the operator are kept in the data folder.
+        fs::path notes = core::resolvePath(s.katalog(), {"notatki.txt"});
+        if (!core::fileExists(notes)) core::commitFile(notes, std::string());
+        std::vector<std::string> programs = kEdytory;
+        programs.push_back("xdg-open");
+        uruchom(programs, {notes.string()}, "Notatnik", "edytor tekstu");
+    });
+}
+
+namespace {
+
+const char* const kTytulDaty = "Zmiana daty systemowej";
+const char* const kTytulCzasu = "Zmiana czasu systemowego";
+
+std::string brakUprawnien(int err, const std::string& what, const std::string& how) {
+    if (err == EPERM || err == EACCES)
+        return "System nie pozwala programowi zmienić " + what +
+               " (brak uprawnień administratora). Ustawia je administrator systemu, np. poleceniem: " + how;
+    return "Nie udało się zmienić " + what + ": " + std::strerror(err);
+}
+
+}  // namespace
+
+void PlaceScreen::Data() {
+    auto typed = ui.inputBox("Podaj nową datę systemową w postaci dd-mm-rrrr", kTytulDaty,
+                             core::FormatDate(core::today(), "dd-mm-yyyy"));
+    if (!typed || core::Trim(*typed).empty()) return;
+    std::string t = core::Trim(*typed);
+    core::Date d;
+    if (core::Len(t) != 10 || !core::parseDate(t, d)) {
+        ui.msgBox("Niepoprawna data \"" + t + "\" - wpisz ją w postaci dd-mm-rrrr, np. 31-01-2021. Daty nie zmieniono.",
+                  Buttons::OK, Icon::Exclamation, kTytulDaty);
+        return;
+    }
+    std::time_t now = std::time(nullptr);
+    std::tm tm{};
+    localtime_r(&now, &tm);
+    int err = pulpit.setClock(d, tm.tm_hour, tm.tm_min, tm.tm_sec);
+    if (err != 0) {
+        ui.msgBox(brakUprawnien(err, "daty systemowej",
+                                "sudo timedatectl set-time " + core::FormatDate(d, "yyyy-mm-dd")),
+                  Buttons::OK, Icon::Exclamation, kTytulDaty);
+        return;
+    }
+    lbData.Caption = core::FormatDate(d, "dddd,dd,mmmm,yyyy");
+    ui.msgBox("Data systemowa: " + core::FormatDate(d, "dd-mm-yyyy"), Buttons::OK, Icon::Information, kTytulDaty);
+}
+
+void PlaceScreen::Czas() {
+    std::time_t now = std::time(nullptr);
+    std::tm tm{};
+    localtime_r(&now, &tm);
+    char buf[16];
+    std::snprintf(buf, sizeof buf, "%02d:%02d:%02d", tm.tm_hour, tm.tm_min, tm.tm_sec);
+    auto typed = ui.inputBox("Podaj nowy czas systemowy w postaci gg:mm:ss", kTytulCzasu, buf);
+    if (!typed || core::Trim(*typed).empty()) return;
+    std::string t = core::Trim(*typed);
+    auto parts = core::Split(t, ':');
+    bool ok = parts.size() == 2 || parts.size() == 3;
+    int hms[3] = {0, 0, 0};
+    for (std::size_t i = 0; ok && i < parts.size(); ++i) {
+        const std::string& p = parts[i];
+        ok = !p.empty() && p.size() <= 2 && p.find_first_not_of("0123456789") == std::string::npos;
+        if (ok) hms[i] = std::stoi(p);
+    }
+    ok = ok && hms[0] <= 23 && hms[1] <= 59 && hms[2] <= 59;
+    if (!ok) {
+        ui.msgBox("Niepoprawny czas \"" + t + "\" - wpisz go w postaci gg:mm:ss, np. 14:30:00. Czasu nie zmieniono.",
+                  Buttons::OK, Icon::Exclamation, kTytulCzasu);
+        return;
+    }
+    core::Date d{tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday};
+    int err = pulpit.setClock(d, hms[0], hms[1], hms[2]);
+    char set[40];
+    std::snprintf(set, sizeof set, "%02d:%02d:%02d", hms[0], hms[1], hms[2]);
+    if (err != 0) {
+        ui.msgBox(brakUprawnien(err, "czasu systemowego", std::string("sudo timedatectl set-time ") + set),
+                  Buttons::OK, Icon::Exclamation, kTytulCzasu);
+        return;
+    }
+    tmCzas_Timer();
+    ui.msgBox(std::string("Czas systemowy: ") + set, Buttons::OK, Icon::Information, kTytulCzasu);
+}
+
+void PlaceScreen::pomoc() {
+    PomocScreen f(ui, s);
+    ui.showForm(f);
 }
 
 }  // namespace reference

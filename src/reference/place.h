@@ -8,6 +8,7 @@
 #include "core/instance.h"
 #include "core/screens.h"
 #include "core/session.h"
+#include "reference/pulpit.h"
 
 namespace reference {
 
@@ -27,6 +28,15 @@ public:
     void cmdKoniec();
     void Has_o();
     void Sciezka();
+    // The utilities of the menu.
+    void mnuWyborList();
+    void Drukarki();
+    void Kopia();
+    void calc();
+    void mnuNotatnik();
+    void Data();
+    void Czas();
+    void pomoc();
     // A date picked in the calendar or Enter in txtDataListyS.
     void MonthView1_DateClick();
     void tmCzas_Timer();
@@ -51,6 +61,12 @@ public:
     core::Control cmdAkceptuj_{this, "cmdAkceptuj", core::Kind::CommandButton, "Akceptuj folder"};
     core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "W&yjscie z programu"};
     core::Control tmCzas{this, "tmCzas", core::Kind::Timer};
+    // The progress of a backup.
+    core::Control lbKopia{this, "lbKopia", core::Kind::Label};
+    core::Control prbKopia{this, "prbKopia", core::Kind::ProgressBar};
+
+    // The desktop: other programs and the system clock.
+    Pulpit pulpit = Pulpit::system();
 
     // The menu: drop-downs and their entries.
     std::vector<std::unique_ptr<core::Control>> menu;
@@ -60,6 +76,10 @@ private:
     void readInstalka(const std::filesystem::path& folder);
     void readRates();
     void refreshPayer();
+    // The payer chosen as the payer screen, loaded hidden, chooses it.
+    void wybierzPlatnika();
+    void uruchom(const std::vector<std::string>& programs, const std::vector<std::string>& args,
+                 const std::string& title, const std::string& what);
     void setCaption();
     void setOkres();
     std::unique_ptr<core::InstanceLock> lock_;

@@ -1,5 +1,7 @@
 #include "reference/screens.h"
 
+#include "reference/instalacja.h"
+#include "reference/mojafirma.h"
 #include "reference/podatki.h"
 #include "reference/wybor.h"
 
@@ -22,6 +24,10 @@ void registerScreens(core::Screens& screens) {
     screens.add("obsluga", opener<ObslugaScreen>());
     screens.add("wybór", opener<WyborScreen>());
     screens.add("frmwybor", opener<WyborScreen>());
+    screens.add("Platnik", opener<MojaFirmaScreen>());
+    screens.add("frmMojaFirma", opener<MojaFirmaScreen>());
+    screens.add("instalacjalist", opener<InstalacjaScreen>());
+    screens.add("frmInstalacja", opener<InstalacjaScreen>());
 }
 
 }  // namespace reference

@@ -31,11 +31,6 @@ WyborScreen::WyborScreen(core::Dialogs& ui, core::Session& session)
     cmdKoniec_.Click = [this] { Unload(); };
 }
 
-void WyborScreen::brakPlatnika() {
-    ui.msgBox("Nie wybrano Płatnika ! Wybierz >Instalacyjne >Dane Płatnika! ", Buttons::OK, Icon::Exclamation,
-              "Brak danych Płatnika");
-}
-
 void WyborScreen::Load() {
     lbPlatnik.Caption = "Płatnik: " + s.SkrotPlatnika;
     if (s.Firma.valid() && s.Firma.s(Firma::SkrotPlatnika) == s.SkrotPlatnika)
@@ -47,7 +42,7 @@ void WyborScreen::Load() {
         lines = Instal::read(s);
     } catch (const core::Error& e) {
         if (e.Number != core::err::PathNotFound) throw;
-        brakPlatnika();
+        brakPlatnika(ui);
         return;
     }
     for (const auto& l : lines) CmbWybierz.AddItem(displayLine(l));
@@ -86,7 +81,7 @@ bool WyborScreen::CmdWybierz() {
         if (!core::fileExists(s.SciezkaOsob)) core::commitFile(s.SciezkaOsob, std::string());
     } catch (const core::Error& e) {
         if (e.Number != core::err::PathNotFound) throw;
-        brakPlatnika();
+        brakPlatnika(ui);
         return false;
     }
     // 6.

@@ -22,9 +22,6 @@ public:
     core::Control lbUwaga{this, "lbUwaga", core::Kind::Label};
     core::Control CmdWybierz_{this, "CmdWybierz", core::Kind::CommandButton, "&Akceptuj wybór"};
     core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Zamknij"};
-
-private:
-    void brakPlatnika();
 };
 
 }  // namespace reference
