@@ -66,7 +66,7 @@ public:
     // the width in characters, a fixed-pitch font, several lines.
     std::string Container;
     std::string Label;
-    int LayoutRow = -1, LayoutSlot = 0, LayoutSpan = 1;
+    int LayoutRow = -1, LayoutSlot = 0, LayoutSpan = 1, LayoutRowSpan = 1;
     int Width = 0;
     bool Mono = false;
     bool MultiLine = false;
@@ -84,6 +84,11 @@ public:
         LayoutRow = row;
         LayoutSlot = slot;
         LayoutSpan = span;
+        return *this;
+    }
+    // A control without its own label spanning `n` rows of its container's grid.
+    Control& rows(int n) {
+        LayoutRowSpan = n;
         return *this;
     }
     Control& in(std::string container) {

@@ -1,12 +1,14 @@
 #include "gui/routes.h"
 
 #include "payinputs/screens.h"
+#include "personnel/screens.h"
 #include "reference/screens.h"
 
 namespace gui {
 
 void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
+    personnel::registerScreens(screens);
     payinputs::registerScreens(screens);
 }
 
