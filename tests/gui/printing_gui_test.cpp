@@ -11,7 +11,10 @@
 #include "paycalc/karta_record.h"
 #include "printing/podglad.h"
 #include "printing/sumy_record.h"
+#include "printing/lista_plac.h"
+#include "support/run.h"
 #include "support/scripted.h"
+#include "support/tempdir.h"
 
 namespace K = paycalc::Karta;
 using testing_support::ScriptedDialogs;
@@ -102,4 +105,29 @@ TEST(PodgladGui, PrintingIsOpenedByName) {
     ASSERT_TRUE(ui.open("CmdPaski", demo.session));
     ASSERT_EQ(ui.paper.documents().size(), 1u);
     EXPECT_EQ(ui.paper.pages().size(), 1u);
+}
+
+TEST(PodgladGui, ListSavedAsPdfFromThePreviewKeepsTheWholeLine) {
+    gui_support::DemoSession demo;
+    otworzListe(demo.session, 5);
+    ScriptedDialogs ui;
+    gui::QtPrinter p;
+    p.preview = false;
+    demo.session.RodzajListy = " płac ";
+    printing::DrukListy d(demo.session, ui, p);
+    d.modDrukujPoczatek();
+    ASSERT_TRUE(d.modDrukujListe(false));
+    ASSERT_EQ(p.documents().size(), 1u);
+    const auto& pages = p.documents().back();
+    EXPECT_TRUE(pages[0][3].bold);
+    EXPECT_EQ(pages[0][3].size, 7);
+    EXPECT_EQ(pages[0][3].font, "Courier New");
+    testing_support::TempDir dir;
+    QString file = QString::fromStdString((dir / "lista.pdf").string());
+    ASSERT_TRUE(gui::savePdf(pages, file));
+    if (!std::filesystem::exists("/usr/bin/pdftotext")) GTEST_SKIP() << "no pdftotext";
+    auto r = testing_support::run("/usr/bin/pdftotext", {"-layout", file.toStdString(), "-"}, dir.path());
+    EXPECT_NE(r.out.find("|" + std::string(132, '=') + "|"), std::string::npos) << r.out;
+    EXPECT_NE(r.out.find("5.JAN"), std::string::npos);
+    EXPECT_NE(r.out.find("Ilosc osób = 5"), std::string::npos);
 }
