@@ -53,7 +53,7 @@ public:
     int Interval = 0;  // timer
 
     // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell. A multi-line text
-    // box and a list box show Rows lines.
+    // box shows Rows lines.
     int Rows = 0, Cols = 0, Row = 0, Col = 0;
     std::vector<std::vector<std::string>> Cells;
     std::vector<int> ColWidth;  // in characters
@@ -66,7 +66,7 @@ public:
     // the width in characters, a fixed-pitch font, several lines.
     std::string Container;
     std::string Label;
-    int LayoutRow = -1, LayoutSlot = 0, LayoutSpan = 1;
+    int LayoutRow = -1, LayoutSlot = 0, LayoutSpan = 1, LayoutRowSpan = 1;
     int Width = 0;
     bool Mono = false;
     bool MultiLine = false;
@@ -84,6 +84,11 @@ public:
         LayoutRow = row;
         LayoutSlot = slot;
         LayoutSpan = span;
+        return *this;
+    }
+    // A control without its own label spanning `n` rows of its container's grid.
+    Control& rows(int n) {
+        LayoutRowSpan = n;
         return *this;
     }
     Control& in(std::string container) {

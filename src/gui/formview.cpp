@@ -8,6 +8,7 @@
 #include <QFileSystemModel>
 #include <QFontDatabase>
 #include <QGridLayout>
+#include <QScrollBar>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -145,6 +146,18 @@ void FormView::build() {
         place(*c, make(*c));
     }
     grid_->setColumnStretch(grid_->columnCount(), 1);
+    // A frame taller than its controls keeps them at its top, unless it holds a control that
+    // grows with the frame (a grid, a list, a text of several lines).
+    std::function<bool(const std::string&)> grows = [&](const std::string& frame) {
+        for (Control* c : form_.controls()) {
+            if (c->Container != frame) continue;
+            if (c->kind == Kind::Grid || c->kind == Kind::ListBox || c->MultiLine) return true;
+            if (c->kind == Kind::Frame && grows(c->Name)) return true;
+        }
+        return false;
+    };
+    for (auto& [name, g] : containers_)
+        if (!name.empty() && !grows(name)) g->setRowStretch(g->rowCount(), 1);
 }
 
 QWidget* FormView::make(Control& c) {
@@ -153,6 +166,7 @@ QWidget* FormView::make(Control& c) {
     case Kind::Label: {
         auto* l = new QLabel(this);
         l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        if (c.Mono) l->setFont(monoFont());
         if (c.Mono) l->setFont(monoFont());
         w = l;
         break;
@@ -210,12 +224,11 @@ QWidget* FormView::make(Control& c) {
     case Kind::ListBox: {
         auto* l = new QListWidget(this);
         if (c.Mono) l->setFont(monoFont());
-        {
-            // A width in characters and, in Rows, the number of lines shown.
-            QFontMetrics fm(l->font());
-            if (c.Width > 0) l->setMinimumWidth(fm.horizontalAdvance('0') * (c.Width + 4));
-            if (c.Rows > 0) l->setMinimumHeight(fm.lineSpacing() * (c.Rows + 1));
-        }
+        // A width in characters; a list of several lines (MultiLine) shows a page of them.
+        if (c.Width > 0)
+            l->setMinimumWidth(QFontMetrics(l->font()).horizontalAdvance(QString(c.Width + 2, '0')) +
+                               l->verticalScrollBar()->sizeHint().width() + 2 * l->frameWidth());
+        if (c.MultiLine) l->setMinimumHeight(QFontMetrics(l->font()).lineSpacing() * 30);
         connect(l, &QListWidget::currentRowChanged, this, [this, &c](int) {
             if (!busy_) run(c, &Control::Click);
         });
@@ -227,6 +240,7 @@ QWidget* FormView::make(Control& c) {
         auto* cb = new QComboBox(this);
         if (c.Mono) cb->setFont(monoFont());
         cb->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        if (c.Width > 0) cb->setMinimumWidth(QFontMetrics(cb->font()).horizontalAdvance('0') * (c.Width + 4));
         connect(cb, &QComboBox::activated, this, [this, &c](int) { run(c, &Control::Click); });
         w = cb;
         break;
@@ -243,6 +257,9 @@ QWidget* FormView::make(Control& c) {
         t->verticalHeader()->setVisible(false);
         t->setSelectionBehavior(QAbstractItemView::SelectItems);
         if (c.Mono) t->setFont(monoFont());
+        t->verticalHeader()->setDefaultSectionSize(QFontMetrics(t->font()).height() + 8);
+        t->setMinimumHeight(QFontMetrics(t->font()).height() * 16);
+        if (c.Width > 0) t->setMinimumWidth(QFontMetrics(t->font()).horizontalAdvance('0') * c.Width);
         connect(t, &QTableWidget::cellClicked, this, [this, &c](int, int) { run(c, &Control::Click); });
         connect(t, &QTableWidget::cellDoubleClicked, this, [this, &c](int, int) { run(c, &Control::DblClick); });
         connect(t->horizontalHeader(), &QHeaderView::sectionClicked, this, [this, &c, t](int col) {
@@ -302,7 +319,7 @@ void FormView::place(Control& c, QWidget* w) {
     QGridLayout* g = it == containers_.end() ? grid_ : it->second;
     int& next = nextRow_[c.Container];
     int row = c.LayoutRow >= 0 ? c.LayoutRow : next;
-    next = std::max(next, row + 1);
+    next = std::max(next, row + std::max(1, c.LayoutRowSpan));
     int col = c.LayoutSlot * 2;
     int span = c.LayoutSpan * 2;
     if (!c.LabelControl.empty()) {
@@ -330,7 +347,7 @@ void FormView::place(Control& c, QWidget* w) {
         g->addWidget(l, row, col, Qt::AlignRight | Qt::AlignVCenter);
         g->addWidget(w, row, col + 1, 1, span - 1);
     } else {
-        g->addWidget(w, row, col, 1, span);
+        g->addWidget(w, row, col, std::max(1, c.LayoutRowSpan), span);
     }
 }
 

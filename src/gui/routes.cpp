@@ -2,14 +2,18 @@
 
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
+#include "personnel/screens.h"
+#include "printing/screens.h"
 #include "reference/screens.h"
 
 namespace gui {
 
 void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
+    personnel::registerScreens(screens);
     payinputs::registerScreens(screens);
     paycalc::registerScreens(screens);
+    printing::registerScreens(screens);
 }
 
 }  // namespace gui

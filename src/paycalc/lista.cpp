@@ -115,7 +115,6 @@ ListaScreen::ListaScreen(core::Dialogs& ui, core::Session& session)
     lstlista.at(2, 0, 3);
     lstlista.Mono = true;
     lstlista.Width = 86;
-    lstlista.Rows = 16;
     lstlista.ToolTipText = "Kliknij osobę, aby ją wybrać";
     fraPolecenia.at(2, 3);
     core::Control* przyciski[] = {&cmdDodajOsobe_, &cmdUsun_,        &cmdWybrane_,    &cmdSortujZbior_,

@@ -109,24 +109,45 @@ Blok nowyBlok(const std::string& nazwisko, const std::string& imie, const std::s
 
 }  // namespace Urlop
 
-UrlopMiesiaca urlopMiesiaca(const std::vector<Urlop::Blok>& blocks, const std::string& klucz, int miesiac) {
+namespace {
+
+// The leave of month `miesiac` in a settled block.
+UrlopMiesiaca urlopBloku(const Urlop::Blok& b, int miesiac) {
     UrlopMiesiaca u;
-    if (miesiac < 1 || miesiac > 12) return u;
-    for (const Urlop::Blok& b : blocks) {
-        if (b.naglowek.s(Urlop::Naglowek::Identyfikator) != klucz || b.naglowek.s(Urlop::Naglowek::Rozliczac) != "1")
-            continue;
-        u.znaleziony = true;
-        std::string stawka = b.miesiace[miesiac - 1].s(Urlop::Miesiac::Stawka);
-        u.Stawka = static_cast<float>(core::Val(core::KropkaZamiastPrzecinka(stawka)));
-        if (u.Stawka > 0) {
-            for (const core::Record& d : b.dni[miesiac - 1])
-                if (core::UCase(core::Left(d.s(Urlop::Dzien::Kod), 1)) == "U") ++u.DniUrlopu;
-        }
-        float kwota = static_cast<float>(u.DniUrlopu) * u.Stawka;
-        u.wUrlopowe = core::Round2(static_cast<double>(kwota));
-        return u;
+    u.znaleziony = true;
+    std::string stawka = b.miesiace[miesiac - 1].s(Urlop::Miesiac::Stawka);
+    u.Stawka = static_cast<float>(core::Val(core::KropkaZamiastPrzecinka(stawka)));
+    if (u.Stawka > 0) {
+        for (const core::Record& d : b.dni[miesiac - 1])
+            if (core::UCase(core::Left(d.s(Urlop::Dzien::Kod), 1)) == "U") ++u.DniUrlopu;
     }
+    float kwota = static_cast<float>(u.DniUrlopu) * u.Stawka;
+    u.wUrlopowe = core::Round2(static_cast<double>(kwota));
     return u;
+}
+
+bool rozliczany(const Urlop::Blok& b) { return b.naglowek.s(Urlop::Naglowek::Rozliczac) == "1"; }
+
+}  // namespace
+
+UrlopMiesiaca urlopMiesiaca(const std::vector<Urlop::Blok>& blocks, const std::string& klucz, int miesiac) {
+    if (miesiac < 1 || miesiac > 12) return {};
+    for (const Urlop::Blok& b : blocks)
+        if (b.naglowek.s(Urlop::Naglowek::Identyfikator) == klucz && rozliczany(b)) return urlopBloku(b, miesiac);
+    return {};
+}
+
+void UrlopyMiesiaca::dodaj(const Urlop::Blok& b) {
+    const std::string klucz = b.naglowek.s(Urlop::Naglowek::Identyfikator);
+    if (!rozliczany(b) || miesiac_ < 1 || miesiac_ > 12 || first_.count(klucz)) return;
+    first_.emplace(klucz, urlopBloku(b, miesiac_));
+}
+
+UrlopMiesiaca UrlopyMiesiaca::znajdz(const std::string& klucz) const {
+    auto it = first_.find(klucz);
+    if (it != first_.end()) return it->second;
+    if (blad_) throw *blad_;
+    return {};
 }
 
 UrlopMiesiaca modUrlop(core::Session& s) {

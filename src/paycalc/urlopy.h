@@ -6,9 +6,12 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <unordered_map>
 #include <string>
 #include <vector>
 
+#include "core/error.h"
 #include "core/record.h"
 #include "core/session.h"
 
@@ -70,6 +73,25 @@ struct UrlopMiesiaca {
 // identifier is `klucz` and whose value 9 is "1". A day counts when its code begins with "U"
 // (either case) and the month's rate is above 0. No such block, or a rate of 0, gives zeros.
 UrlopMiesiaca urlopMiesiaca(const std::vector<Urlop::Blok>& blocks, const std::string& klucz, int miesiac);
+
+// The leave of one month for every person of a leave file read once: the first settled block
+// of each identifier, as urlopMiesiaca finds it.
+class UrlopyMiesiaca {
+public:
+    explicit UrlopyMiesiaca(int miesiac = 0) : miesiac_(miesiac) {}
+    // Takes a block read from the file, in file order.
+    void dodaj(const Urlop::Blok& b);
+    // A file that broke off: the blocks before the fault stay, a person not found among them
+    // raises the fault.
+    void przerwano(core::Error e) { blad_ = std::move(e); }
+    // The person's leave of the month; zeros when the file has no settled block of the person.
+    UrlopMiesiaca znajdz(const std::string& klucz) const;
+
+private:
+    int miesiac_;
+    std::unordered_map<std::string, UrlopMiesiaca> first_;
+    std::optional<core::Error> blad_;
+};
 
 // modUrlop: reads the leave file of the year of DataListy for KluczOsoby and puts the days, the
 // rate and the amount into the session's result block (DniUrlopu, StawkaUrlopowa, wUrlopowe).

@@ -59,14 +59,14 @@ ZbioryListy wczytajZbiory(const core::Session& s) {
     ZbioryListy z;
     z.placowe = wczytajZbior(Pay::path(s), Pay::schema(), kluczPlacy);
     z.osobowe = wczytajZbior(Osoba::path(s), Osoba::schema(), kluczOsoby);
+    z.urlopy = UrlopyMiesiaca(static_cast<int>(core::Val(s.miesiac())));
     fs::path urlopy = Urlop::path(s, s.rok());
     if (core::fileExists(urlopy)) {
         try {
             core::SeqReader in(urlopy);
-            // Block by block, so that the blocks before a fault stay readable.
-            while (!in.eof()) z.urlopy.push_back(Urlop::readBlok(in));
+            while (!in.eof()) z.urlopy.dodaj(Urlop::readBlok(in));
         } catch (const core::Error& e) {
-            z.bladUrlopow = e;
+            z.urlopy.przerwano(e);
         }
     }
     return z;
@@ -160,8 +160,7 @@ Wynik modWyliczeniePlacy(core::Session& s, core::Dialogs& ui, const ZbioryListy&
     const int miesiacNr = static_cast<int>(core::Val(mies));
     const int rokNr = static_cast<int>(core::Val(rok));
     {
-        UrlopMiesiaca u = urlopMiesiaca(z.urlopy, s.KluczOsoby, miesiacNr);
-        if (!u.znaleziony && z.bladUrlopow) throw *z.bladUrlopow;
+        UrlopMiesiaca u = z.urlopy.znajdz(s.KluczOsoby);
         w.DniUrlopu = u.DniUrlopu;
         w.StawkaUrlopowa = u.Stawka;
         w.wUrlopowe = u.wUrlopowe;

@@ -43,13 +43,13 @@ private:
 struct ZbioryListy {
     Zbior placowe;                   // bazy\<lista>.dta
     Zbior osobowe;                   // person\<lista>.per
-    std::vector<Urlop::Blok> urlopy; // Urlopy\Ur<lista><rrrr>.dta; empty when the file is missing
-    std::optional<core::Error> bladUrlopow;  // a leave file that broke off: the blocks before it stay
+    UrlopyMiesiaca urlopy;           // Urlopy\Ur<lista><rrrr>.dta, the month of the list date
 };
 
 // Reads the pay, personnel and leave files of the session's list (SciezkaBazy, SciezkaOsob or
-// the list name; the leave file of the year of DataListy). Nothing throws here: a missing or
-// broken file is raised by the lookup that needs it.
+// the list name; the leave of the month of DataListy from the file of its year). Nothing throws
+// here: a missing or broken file is raised by the lookup that needs it (a missing leave file is
+// no leave).
 ZbioryListy wczytajZbiory(const core::Session& s);
 
 // What became of a call.

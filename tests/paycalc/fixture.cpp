@@ -7,6 +7,7 @@
 #include "core/paths.h"
 #include "payinputs/pay_record.h"
 #include "personnel/person_record.h"
+#include "reference/payers.h"
 #include "reference/rates.h"
 
 namespace Pay = payinputs::Pay;
@@ -62,8 +63,7 @@ core::Record stawkiRoku(int rok) {
 }
 
 core::Record placa(const std::string& pesel, float zasadnicza, const std::string& nazwisko, const std::string& imie) {
-    core::Record p(Pay::schema());
-    p.set(Pay::Poczatek, "<Poczatek>");
+    core::Record p = payinputs::nowyRekordPlacowy(18, 1);
     p.set(Pay::Nazwisko, nazwisko);
     p.set(Pay::Imie, imie);
     p.set(Pay::Pesel, pesel);
@@ -72,20 +72,15 @@ core::Record placa(const std::string& pesel, float zasadnicza, const std::string
     p.set(Pay::DataZatrudnienia, "01/02/2007");
     p.set(Pay::KosztyUzyskania, 111.25f);
     p.set(Pay::KwotaUlgi, 46.33f);
-    p.set(Pay::ZastosStaPOD, 0.18f);
-    p.set(Pay::Obywatelstwo, "POLSKIE");
     p.set(Pay::Grupa, "a");
-    for (int sw : {Pay::Wypadkowa, Pay::Rentowa, Pay::Emerytalna, Pay::Chorobowa, Pay::Zdrowotna}) p.set(sw, 1L);
     p.set(Pay::WskaznikEtatu, 1.0f);
     p.set(Pay::RodzajUmowy, "Umowa o prace");
-    p.set(Pay::Koniec, "<Koniec>");
     return p;
 }
 
 core::Record osoba(const std::string& pesel, const std::string& urodzony, const std::string& nazwisko,
                    const std::string& imie) {
-    core::Record o(Osoba::schema());
-    o.set(Osoba::Poczatek, "<Poczatek>");
+    core::Record o = Osoba::pusty();
     o.set(Osoba::Nazwisko, nazwisko);
     o.set(Osoba::Imie, imie);
     o.set(Osoba::Pesel, pesel);
@@ -94,9 +89,8 @@ core::Record osoba(const std::string& pesel, const std::string& urodzony, const 
     o.set(Osoba::Etat, "  1  1");
     o.set(Osoba::Grupa, "a");
     o.set(Osoba::Obywatelstwo, "POLSKIE");
-    o.set(Osoba::DataZatrudnienia, "01-02-2007X          ");
+    o.set(Osoba::DataZatrudnienia, std::string("01-02-2007") + Osoba::kZnacznikDaty);
     o.set(Osoba::Status, 1L);
-    o.set(Osoba::Koniec, "<koniec>");
     return o;
 }
 
@@ -110,6 +104,24 @@ Lista::Lista(const std::string& dataListy) {
     std::vector<core::Record> lata;
     for (int rok : {2008, 2009, 2019, 2020}) lata.push_back(stawkiRoku(rok));
     core::writeAll(Dane::path(s), lata);
+}
+
+void Lista::zmienStawke(int rok, int pole, const std::string& wartosc) {
+    auto lata = core::readAll(Dane::path(s), Dane::schema());
+    for (auto& r : lata)
+        if (r.s(Dane::Rok) == std::to_string(rok)) r.set(pole, wartosc);
+    core::writeAll(Dane::path(s), lata);
+}
+
+void Lista::dlaWierszaPolecen() {
+    core::Session inst = s;
+    inst.Katalog = ".";
+    inst.Haslo = "test";
+    core::Instalka::write(dir.path(), inst.instalkaRecord());
+    core::Record firma(reference::Firma::schema());
+    firma.set(reference::Firma::SkrotPlatnika, "FIRMA");
+    firma.set(reference::Firma::NazwaM, "Firma Testowa");
+    reference::Firma::writeAll(reference::Firma::path(s), {firma});
 }
 
 core::Record& Lista::dodaj(const std::string& pesel, float zasadnicza, const std::string& urodzony, const std::string& imie) {

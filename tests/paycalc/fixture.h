@@ -35,6 +35,10 @@ struct Lista {
 
     // Payer "FIRMA", list "L1", the list date dd-mm-rrrr; Dane.dta of 2008, 2009, 2019, 2020.
     explicit Lista(const std::string& dataListy);
+    // Changes one item of the rates of a year in Dane.dta.
+    void zmienStawke(int rok, int pole, const std::string& wartosc);
+    // The installation record and the payer register, for the command line.
+    void dlaWierszaPolecen();
     // A pay record and the personnel record of the same person, hired on 1 February of the
     // year before the list (no seniority allowance).
     core::Record& dodaj(const std::string& pesel, float zasadnicza, const std::string& urodzony = "15-05-1970",

@@ -1,0 +1,128 @@
+// frmOsoba1 ("Pracownik"): one person of the list: shows and edits the personnel record, adds a
+// new person, and opens the person's other screens (pay, deductions, benefits, sick pay, leave,
+// the yearly ledger, working time) by name as they exist in this program.
+#pragma once
+#include <string>
+
+#include "core/form.h"
+#include "core/record.h"
+#include "core/session.h"
+
+namespace personnel {
+
+// The screens of the person, by their names and the menu entries that open them.
+inline constexpr const char* kEkranPlacy = "frmPlaca";
+inline constexpr const char* kEkranPotracen = "frmPotracenia";
+inline constexpr const char* kEkranZasilkow = "frmZasilki";
+inline constexpr const char* kEkranChorobowego = "frmChorobowe";
+inline constexpr const char* kEkranUrlopow = "frmUrlopy";
+inline constexpr const char* kEkranKartotekiRocznej = "frmKartotekaRoczna";
+inline constexpr const char* kEkranCzasuPracy = "frmCzasPracy";
+inline constexpr const char* kEkranRocznegoCzasuPracy = "frmRocznyCzasPracy";
+inline constexpr const char* kEkranKadr = "frmKadryII";
+
+class Osoba1Screen : public core::Form {
+public:
+    Osoba1Screen(core::Dialogs& ui, core::Session& s);
+    ~Osoba1Screen() override;
+
+    void Load() override;
+    void cmdZapiszZmiany();
+    void cmdZapiszNowaOsobe();
+    void cmdKoniecP() { Unload(); }
+    // The postal lookup when the code changes.
+    void txtKod_Change();
+    // The birth date from the PESEL on a click in the birth date box.
+    void txtDataUrodzenia_Click();
+    // Opens a screen of the person by name, with the person's values in the session.
+    void otworz(const std::string& ekran);
+    // Whether the screen is adding a new person (cmdZapiszNowaOsobe offered).
+    bool trybNowejOsoby() const { return cmdZapiszNowaOsobe_.Visible; }
+    // The identifier under which the record on the screen stands in the file.
+    const std::string& kluczWPliku() const { return kluczWPliku_; }
+
+    core::Session& s;
+
+    core::Control fraDane{this, "fraDane", core::Kind::Frame, "Dane osobowe"};
+    core::Control fraAdres{this, "fraAdres", core::Kind::Frame, "Adres zameldowania"};
+    core::Control fraZatrudnienie{this, "fraZatrudnienie", core::Kind::Frame, "Zatrudnienie i ubezpieczenie"};
+    core::Control fraStatus{this, "fraStatus", core::Kind::Frame, "Status Aktywności"};
+
+    core::Control txtNazwisko{this, "txtNazwisko", core::Kind::TextBox};
+    core::Control txtImie{this, "txtImie", core::Kind::TextBox};
+    core::Control txtDrugieImie{this, "txtDrugieImie", core::Kind::TextBox};
+    core::Control txtPesel{this, "txtPesel", core::Kind::TextBox};
+    core::Control txtDataUrodzenia{this, "txtDataUrodzenia", core::Kind::TextBox};
+    core::Control txtMiejsceUrodzenia{this, "txtMiejsceUrodzenia", core::Kind::TextBox};
+    core::Control txtImieOjca{this, "txtImieOjca", core::Kind::TextBox};
+    core::Control txtImieMatki{this, "txtImieMatki", core::Kind::TextBox};
+    core::Control txtObywatelstwo{this, "txtObywatelstwo", core::Kind::TextBox};
+    core::Control txtPaszport{this, "txtPaszport", core::Kind::TextBox};
+    core::Control txtDowodOsobisty{this, "txtDowodOsobisty", core::Kind::TextBox};
+    core::Control txtNip{this, "txtNip", core::Kind::TextBox};
+    core::Control txtKodWyksztalcenia{this, "txtKodWyksztalcenia", core::Kind::TextBox};
+    core::Control txtTelefon{this, "txtTelefon", core::Kind::TextBox};
+    core::Control txtKomorka{this, "txtKomorka", core::Kind::TextBox};
+    core::Control Txtmail{this, "Txtmail", core::Kind::TextBox};
+
+    core::Control txtKod{this, "txtKod", core::Kind::TextBox};
+    core::Control txtMiejscowosc{this, "txtMiejscowosc", core::Kind::TextBox};
+    core::Control txtPoczta{this, "txtPoczta", core::Kind::TextBox};
+    core::Control TxtUlica{this, "TxtUlica", core::Kind::TextBox};
+    core::Control txtNrDomu{this, "txtNrDomu", core::Kind::TextBox};
+    core::Control txtLokal{this, "txtLokal", core::Kind::TextBox};
+    core::Control txtGmina{this, "txtGmina", core::Kind::TextBox};
+    core::Control txtPowiat{this, "txtPowiat", core::Kind::TextBox};
+    core::Control txtWojewodztwo{this, "txtWojewodztwo", core::Kind::TextBox};
+    core::Control txtSkrPocztowa{this, "txtSkrPocztowa", core::Kind::TextBox};
+    core::Control txtUrzadSkarbowy{this, "txtUrzadSkarbowy", core::Kind::TextBox};
+    core::Control txtOddzialZUS{this, "txtOddzialZUS", core::Kind::TextBox};
+
+    core::Control txtNumerIP{this, "txtNumerIP", core::Kind::TextBox};
+    core::Control txtKodUbezpieczenia{this, "txtKodUbezpieczenia", core::Kind::TextBox};
+    core::Control txtNrUbezpieczenia{this, "txtNrUbezpieczenia", core::Kind::TextBox};
+    core::Control TxtDataZatrudnienia{this, "TxtDataZatrudnienia", core::Kind::TextBox};
+    core::Control txtGrupa{this, "txtGrupa", core::Kind::TextBox};
+    core::Control txtEtat{this, "txtEtat", core::Kind::TextBox};
+    core::Control txtEtat2{this, "txtEtat2", core::Kind::TextBox};
+    core::Control lbUlamekEtatu{this, "lbUlamekEtatu", core::Kind::Label};
+    core::Control txtWskaznikFP{this, "txtWskaznikFP", core::Kind::TextBox};
+    core::Control txtFGSP{this, "txtFGSP", core::Kind::TextBox};
+    core::Control lbFunduszPracy{this, "lbFunduszPracy", core::Kind::Label,
+                                 "Poniżej 1 /4 etatu nie nalicza Funduszu Pracy"};
+    core::Control lbWiek{this, "lbWiek", core::Kind::Label, "Kobiety > 55 i męższczyźni > 60 FP i FGŚP = 0"};
+    core::Control Option1{this, "Option1", core::Kind::OptionButton, "Tak"};
+    core::Control Option2{this, "Option2", core::Kind::OptionButton, "Nie"};
+
+    core::Control cmdZapiszZmiany_{this, "cmdZapiszZmiany", core::Kind::CommandButton, "Zapisz zmiany"};
+    core::Control cmdZapiszNowaOsobe_{this, "cmdZapiszNowaOsobe", core::Kind::CommandButton, "&Wpisz dane nowej osoby"};
+    core::Control CmdKadry{this, "CmdKadry", core::Kind::CommandButton, "&Dane kadrowe  -> 2"};
+    core::Control cmdKoniecP_{this, "cmdKoniecP", core::Kind::CommandButton, "Koniec"};
+
+    // The menu of the person's other screens.
+    core::Control placa{this, "placa", core::Kind::Menu, "&Płaca"};
+    core::Control potr{this, "potr", core::Kind::Menu, "Po&Trącenia"};
+    core::Control Zasilki{this, "Zasilki", core::Kind::Menu, "&Renty i Zasiłki"};
+    core::Control chorobowe{this, "chorobowe", core::Kind::Menu, "&Chorobowe"};
+    core::Control urlopy{this, "urlopy", core::Kind::Menu, "&Urlopy"};
+    core::Control lista{this, "lista", core::Kind::Menu, "&Lista płac"};
+    core::Control Roczna{this, "Roczna", core::Kind::Menu, "&Kartoteka "};
+    core::Control CzasPracy{this, "CzasPracy", core::Kind::Menu, "&CzasPracy"};
+    core::Control mnuMiesieczne{this, "mnuMiesieczne", core::Kind::Menu, "&Miesięczne zestawienie "};
+    core::Control mnuRoczne{this, "mnuRoczne", core::Kind::Menu, "&Roczne zestawienie"};
+
+private:
+    void wypelnij(const core::Record& r);
+    void wyczysc();
+    void trybNowej(int numer);
+    void trybZmian();
+    void odswiezMenu();
+    void odswiezEtat();
+    bool sprawdz();
+    void zbuduj(core::Record& r);
+
+    std::string kluczWPliku_;
+    int numerWPliku_ = 0;  // the number of a person just added (0: the first record of the key)
+};
+
+}  // namespace personnel

@@ -1,0 +1,454 @@
+#include <gtest/gtest.h>
+
+#include "core/screens.h"
+#include "core/text.h"
+#include "personnel/demo_list.h"
+#include "personnel/osoba1.h"
+#include "personnel/person_record.h"
+#include "support/scripted.h"
+
+using namespace personnel;
+using personnel_test::DemoList;
+using testing_support::readBytes;
+using testing_support::ScriptedDialogs;
+
+namespace {
+
+std::vector<std::string> lines(std::initializer_list<const char*> l) { return {l.begin(), l.end()}; }
+
+}  // namespace
+
+TEST(Osoba1, OpensThePersonOfTheSession) {
+    DemoList d;
+    d.wybierz(6);  // LEWANDOWSKA EWA, 3/4 of a post
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    EXPECT_TRUE(ui.boxes.empty());
+    EXPECT_EQ(f.Caption, "a LEWANDOWSKA EWA");
+    EXPECT_EQ(f.txtNazwisko.Text, "LEWANDOWSKA");
+    EXPECT_EQ(f.txtPesel.Text, "85031589069");
+    EXPECT_EQ(f.txtEtat.Text, "3");
+    EXPECT_EQ(f.txtEtat2.Text, "4");
+    EXPECT_EQ(f.lbUlamekEtatu.Caption, "0.75");
+    EXPECT_EQ(f.TxtDataZatrudnienia.Text, "01-01-2016");  // the literal behind the date cut off
+    EXPECT_EQ(f.txtNumerIP.Text, "7");                     // value 40
+    EXPECT_EQ(f.txtKod.Text, "32-447");
+    EXPECT_EQ(f.Option1.Value, 1);
+    EXPECT_TRUE(f.cmdZapiszZmiany_.Visible);
+    EXPECT_FALSE(f.cmdZapiszNowaOsobe_.Visible);
+    EXPECT_DOUBLE_EQ(d.s.Osoba.UlamekEtatu, 0.75);
+}
+
+TEST(Osoba1, CitizenshipZeroAndShortDateOfHire) {
+    DemoList d;
+    // A stored citizenship "0" is found under the PESEL; a value 35 of 10 characters is no date.
+    auto recs = d.osoby();
+    recs[2].set(Osoba::DataZatrudnienia, "01-03-2019");
+    recs[2].set(Osoba::Status, 2L);
+    core::writeAll(d.per(), recs);
+    d.wybierz(2);
+    EXPECT_EQ(d.s.KluczOsoby, "88110578938");
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    EXPECT_EQ(f.txtNazwisko.Text, "ZIELIŃSKI");
+    EXPECT_EQ(f.txtObywatelstwo.Text, "0");
+    EXPECT_EQ(f.TxtDataZatrudnienia.Text, "");
+    EXPECT_EQ(f.Option2.Value, 1);
+    EXPECT_EQ(f.Option1.Value, 0);
+}
+
+TEST(Osoba1, ValidationOfSaveInItsOrder) {
+    struct Case {
+        const char* what;
+        std::function<void(Osoba1Screen&)> edit;
+        std::vector<std::string> boxes;
+        const char* focus;
+    };
+    const std::string info = "[]  Jezeli jest to cudzoziemiec to wpisz Obywatelstwo i Nr Paszportu";
+    const Case cases[] = {
+        {"empty surname", [](Osoba1Screen& f) { f.txtNazwisko.Text = ""; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
+        {"surname Nowe", [](Osoba1Screen& f) { f.txtNazwisko.Text = "Nowe"; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
+        {"both names wrong", [](Osoba1Screen& f) { f.txtNazwisko.Text = " "; f.txtImie.Text = ""; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
+        {"empty first name", [](Osoba1Screen& f) { f.txtImie.Text = ""; }, {"[Wpisz Imie !] Brak wpisu imienia"}, "txtImie"},
+        {"first name Nowe", [](Osoba1Screen& f) { f.txtImie.Text = "Nowe"; }, {"[Wpisz Imie !] Brak wpisu imienia"}, "txtImie"},
+        {"foreigner without passport",
+         [](Osoba1Screen& f) { f.txtPesel.Text = "00000000000"; f.txtObywatelstwo.Text = "UKRAIŃSKIE"; f.txtPaszport.Text = ""; },
+         {info, "[Wpisz !] Jeśli Obcokrajowiec - wpisz nr Paszportu "}, "txtPaszport"},
+        {"blank PESEL, no citizenship",
+         [](Osoba1Screen& f) { f.txtPesel.Text = " "; f.txtObywatelstwo.Text = ""; f.txtPaszport.Text = "AB1"; },
+         {info, "[Wpisz Obywatelstwo!] Jeśli Obcokrajowiec - wpisz Obywatelstwo "}, "txtObywatelstwo"},
+        {"PESEL of zeros", [](Osoba1Screen& f) { f.txtPesel.Text = "00000000000"; }, {"[Wpisz Pesel !] Brak wpisu nr Pesel"}, "txtPesel"},
+        {"PESEL Nowe", [](Osoba1Screen& f) { f.txtPesel.Text = "Nowe"; }, {"[Wpisz Pesel !] Brak wpisu nr Pesel"}, "txtPesel"},
+        {"PESEL of 10", [](Osoba1Screen& f) { f.txtPesel.Text = "7503141231"; }, {"[Wpisz poprawnie Pesel !] Zły nr Pesel"}, "txtPesel"},
+        {"POL... without PESEL",
+         [](Osoba1Screen& f) { f.txtPesel.Text = ""; f.txtObywatelstwo.Text = "POLINEZYJSKIE"; f.txtPaszport.Text = "X9"; },
+         {"[Wpisz poprawnie Pesel !] Zły nr Pesel"}, "txtPesel"},
+        {"insurance code of zeros", [](Osoba1Screen& f) { f.txtKodUbezpieczenia.Text = "000000"; },
+         {"[Wpisz Kod ubezpieczenia!] Brak wpisu nr Kodu ubezpieczenia"}, "txtKodUbezpieczenia"},
+        {"no insurance code", [](Osoba1Screen& f) { f.txtKodUbezpieczenia.Text = ""; },
+         {"[Wpisz Kod ubezpieczenia!] Brak wpisu nr Kodu ubezpieczenia"}, "txtKodUbezpieczenia"},
+        {"short birth date", [](Osoba1Screen& f) { f.txtDataUrodzenia.Text = "1-3-1975"; },
+         {"[Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !] Brak daty urodzenia"}, "txtDataUrodzenia"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        DemoList d;
+        d.wybierz(0);
+        const std::string before = readBytes(d.per());
+        ScriptedDialogs ui;
+        Osoba1Screen f(ui, d.s);
+        f.Load();
+        c.edit(f);
+        f.cmdZapiszZmiany();
+        EXPECT_EQ(ui.lines(), c.boxes);
+        EXPECT_EQ(f.FocusTo, c.focus);
+        EXPECT_EQ(readBytes(d.per()), before);
+        EXPECT_FALSE(std::filesystem::exists(d.per().parent_path() / "tymcz.dta"));
+    }
+}
+
+TEST(Osoba1, ForeignerPathEmptiesThePesel) {
+    DemoList d;
+    d.wybierz(0);
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    f.txtPesel.Text = "00000000000";
+    f.txtObywatelstwo.Text = "NIEMIECKIE";
+    f.txtPaszport.Text = "";
+    f.cmdZapiszZmiany();
+    EXPECT_EQ(f.txtPesel.Text, "");
+    EXPECT_EQ(ui.boxes.front().icon, core::Icon::Information);
+}
+
+TEST(Osoba1, SaveRebuildsTheRecordFromTheControls) {
+    DemoList d;
+    d.wybierz(1);  // WIŚNIEWSKA, the second record
+    const auto before = d.osoby();
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    f.txtNazwisko.Text = "  wiśniewska-nowak ";
+    f.txtImie.Text = "maria";
+    f.txtKodUbezpieczenia.Text = " 0110001234 ";
+    f.txtKod.Text = "32-4";
+    f.txtEtat.Text = "1";
+    f.txtEtat2.Text = "2";
+    f.TxtDataZatrudnienia.Text = "01-10-1990";
+    f.txtNumerIP.Text = "12";
+    f.txtPaszport.Text = "ab12";
+    f.setOption(f.Option2);
+    f.cmdZapiszZmiany();
+    EXPECT_EQ(ui.lines(), lines({"[Potwierdzenie zapisu] Zmiany zostały wprowadzone"}));
+    const auto after = d.osoby();
+    ASSERT_EQ(after.size(), before.size());
+    const core::Record& r = after[1];
+    EXPECT_EQ(r.s(Osoba::Nazwisko), "WIŚNIEWSKA-NOWAK");
+    EXPECT_EQ(r.s(Osoba::Imie), "MARIA");
+    EXPECT_EQ(r.s(Osoba::KodUbezpieczenia), "011000");
+    EXPECT_EQ(r.s(Osoba::Kod), "32-4  ");
+    EXPECT_EQ(r.s(Osoba::Etat), "  1  2");
+    EXPECT_EQ(r.s(Osoba::DataZatrudnienia), "01-10-1990X          ");
+    EXPECT_EQ(r.s(Osoba::NumerIP), "12");
+    EXPECT_EQ(r.s(Osoba::Paszport), "AB12");
+    EXPECT_EQ(r.s(Osoba::Obywatelstwo), "POLSKIE");
+    EXPECT_EQ(r.i(Osoba::Status), 2);
+    EXPECT_EQ(r.i(Osoba::Numer), 2);                       // value 40 passes through
+    EXPECT_EQ(r.item(Osoba::Rezerwa28), before[1].item(Osoba::Rezerwa28));
+    EXPECT_EQ(r.s(Osoba::Koniec), "<koniec>");
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        if (i == 1) continue;
+        for (int n = 1; n <= Osoba::Count; ++n) EXPECT_EQ(after[i].item(n), before[i].item(n)) << i << " " << n;
+    }
+    // The person is still found under the identifier it had when it was opened.
+    EXPECT_EQ(d.s.KluczOsoby, "63072245629");
+}
+
+TEST(Osoba1, ForeignerAddedThenSaved) {
+    DemoList d;
+    d.nowa();
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    // New-person mode with the next free number.
+    EXPECT_TRUE(f.trybNowejOsoby());
+    EXPECT_EQ(f.txtNazwisko.Text, "Nowe");
+    EXPECT_EQ(f.txtImie.Text, "Nowe");
+    EXPECT_EQ(f.txtPesel.Text, "00000000000");
+    EXPECT_EQ(f.txtKodUbezpieczenia.Text, "011000");
+    EXPECT_EQ(f.txtNumerIP.Text, "8");
+    EXPECT_EQ(f.txtDrugieImie.Text, "");
+    f.txtNazwisko.Text = "Ivanova";
+    f.txtImie.Text = "Tatsiana";
+    f.txtPesel.Text = "";
+    f.txtPaszport.Text = "mp4455667";
+    f.txtObywatelstwo.Text = "BIAŁORUSKIE";
+    f.txtDataUrodzenia.Text = "12-06-1994";
+    f.txtEtat.Text = "1";
+    f.txtEtat2.Text = "1";
+    f.cmdZapiszNowaOsobe();
+    EXPECT_EQ(ui.lines(), lines({"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany", "[Dopisany] Rekord zostal dopisany "}));
+    EXPECT_FALSE(f.trybNowejOsoby());
+    EXPECT_EQ(d.s.KluczOsoby, "MP4455667");
+    EXPECT_EQ(d.s.NazwiskoOsoby, "IVANOVA");
+    EXPECT_EQ(d.s.LiczbaOsob, 8);
+    auto recs = d.osoby();
+    ASSERT_EQ(recs.size(), 8u);
+    const core::Record& r = recs[7];
+    EXPECT_EQ(r.s(Osoba::Nazwisko), "IVANOVA");
+    EXPECT_EQ(r.s(Osoba::Paszport), "MP4455667");
+    EXPECT_EQ(r.s(Osoba::Obywatelstwo), "POLSKIE");  // until the first save
+    EXPECT_EQ(r.s(Osoba::DataZatrudnienia), "31-01-2021X          ");
+    EXPECT_EQ(r.item(Osoba::Rezerwa28).kind, core::Item::Empty);
+    EXPECT_EQ(r.s(Osoba::FGSP), "");
+    EXPECT_EQ(r.i(Osoba::Status), 1);
+    EXPECT_EQ(r.i(Osoba::Numer), 8);
+    EXPECT_EQ(kluczOsoby(r), "");  // searched under the empty PESEL
+    // The first "Zapisz zmiany" stores the real citizenship.
+    ui.boxes.clear();
+    f.cmdZapiszZmiany();
+    EXPECT_EQ(ui.lines(), lines({"[]  Jezeli jest to cudzoziemiec to wpisz Obywatelstwo i Nr Paszportu",
+                                 "[Potwierdzenie zapisu] Zmiany zostały wprowadzone"}));
+    recs = d.osoby();
+    ASSERT_EQ(recs.size(), 8u);
+    EXPECT_EQ(recs[7].s(Osoba::Obywatelstwo), "BIAŁORUSKIE");
+    EXPECT_EQ(kluczOsoby(recs[7]), "MP4455667");
+    EXPECT_EQ(recs[7].s(Osoba::DataZatrudnienia), "31-01-2021X          ");
+    // The next opening finds the person under the passport.
+    Osoba1Screen g(ui, d.s);
+    g.Load();
+    EXPECT_FALSE(g.trybNowejOsoby());
+    EXPECT_EQ(g.txtObywatelstwo.Text, "BIAŁORUSKIE");
+}
+
+TEST(Osoba1, AddingAPersonBoxes) {
+    struct {
+        const char *what, *pesel, *paszport, *obywatelstwo;
+        std::vector<std::string> boxes;
+        bool written;
+        const char* zapisaneObywatelstwo;
+    } cases[] = {
+        {"no identifier at all", "", "", "POLSKIE",
+         {"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany",
+          "[Błędne dane !] Blad zapisu Wpisz PESEL dla krajowca lub Paszport i Obywatelstwo dla obckrajowca"},
+         false, ""},
+        {"no citizenship", "92010112345", "", "",
+         {"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany", "[Błąd] Ustal Obywatelstwo", "[Dopisany] Rekord zostal dopisany "},
+         true, "POLSKIE"},
+        {"foreigner with a PESEL", "92010112345", "XY1", "CZESKIE",
+         {"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany",
+          "[Błąd] Błąd - musi być wpisany prawidłowy Identyfikator Pesel dla Polaka Paszport dla cudzoziemca(Obywatelstwo)",
+          "[Dopisany] Rekord zostal dopisany "},
+         true, "POLSKIE"},
+        {"Polish without PESEL", "", "XY1", "POLSKIE",
+         {"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany",
+          "[Błąd] Błąd - musi być wpisany prawidłowy Identyfikator Pesel dla Polaka Paszport dla cudzoziemca(Obywatelstwo)",
+          "[Błąd] Błąd - musi być wpisany prawidłowy Identyfikator Pesel dla Polaka Paszport dla cudzoziemca(Obywatelstwo)"},
+         false, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        DemoList d;
+        d.nowa();
+        const std::string before = readBytes(d.per());
+        ScriptedDialogs ui;
+        Osoba1Screen f(ui, d.s);
+        f.Load();
+        f.txtNazwisko.Text = "Nowicki";
+        f.txtImie.Text = "Adam";
+        f.txtPesel.Text = c.pesel;
+        f.txtPaszport.Text = c.paszport;
+        f.txtObywatelstwo.Text = c.obywatelstwo;
+        f.cmdZapiszNowaOsobe();
+        EXPECT_EQ(ui.lines(), c.boxes);
+        auto recs = d.osoby();
+        if (!c.written) {
+            EXPECT_EQ(readBytes(d.per()), before);
+            EXPECT_TRUE(f.trybNowejOsoby());
+            continue;
+        }
+        ASSERT_EQ(recs.size(), 8u);
+        EXPECT_EQ(recs[7].s(Osoba::Obywatelstwo), c.zapisaneObywatelstwo);
+        EXPECT_EQ(recs[7].s(Osoba::Pesel), c.pesel);
+    }
+}
+
+TEST(Osoba1, CancelledAddWritesNothing) {
+    DemoList d;
+    d.nowa();
+    const std::string before = readBytes(d.per());
+    ScriptedDialogs ui;
+    ui.answer(core::Answer::Cancel);
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    f.txtPesel.Text = "92010112345";
+    f.cmdZapiszNowaOsobe();
+    EXPECT_EQ(ui.boxes.size(), 1u);
+    EXPECT_EQ(readBytes(d.per()), before);
+}
+
+TEST(Osoba1, UnknownPersonOpensNewPersonMode) {
+    DemoList d;
+    d.wybierz(0);
+    d.s.KluczOsoby = "99999999999";
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    EXPECT_TRUE(f.trybNowejOsoby());
+    EXPECT_EQ(d.s.NazwiskoOsoby, "Nowe");
+    EXPECT_EQ(d.s.KluczOsoby, "00000000000");
+    EXPECT_EQ(d.s.KodUbezpieczeniaOsoby, "011000");
+    EXPECT_EQ(f.txtNumerIP.Text, "8");
+}
+
+TEST(Osoba1, MissingFileQuestion) {
+    {
+        DemoList d;
+        std::filesystem::remove(d.per());
+        d.nowa();
+        ScriptedDialogs ui;
+        ui.answer(core::Answer::No);
+        Osoba1Screen f(ui, d.s);
+        f.Load();
+        EXPECT_EQ(ui.lines(), lines({"[Brak zbioru Kadry !] Brak pliku Płacowo-Kadrowego w wybranym katalogu -> założenie zbioru od nowa Tak ?"}));
+        EXPECT_TRUE(f.Unloaded);
+        EXPECT_FALSE(std::filesystem::exists(d.per()));
+    }
+    DemoList d;
+    std::filesystem::remove(d.per());
+    d.nowa();
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    EXPECT_EQ(ui.last(), "[Wpis pierwszy !] Uzupełnij dane i Zapisz zmiany!");
+    EXPECT_FALSE(f.Unloaded);
+    std::vector<std::string> want(41, "\"\"");
+    want[0] = "\"<Poczatek>\"";
+    want[1] = "\"Nowe\"";
+    want[2] = "\"Imie\"";
+    want[4] = "\"00000000000\"";
+    want[27] = "";
+    want[38] = "1";
+    want[39] = "1";
+    want[40] = "\"<koniec>\"";
+    EXPECT_EQ(testing_support::readLines(d.per()), want);
+    // The first record is on the screen, to be completed and saved.
+    EXPECT_FALSE(f.trybNowejOsoby());
+    f.txtNazwisko.Text = "Nowak";
+    f.txtImie.Text = "Jan";
+    f.txtPesel.Text = "75031412317";
+    f.txtKodUbezpieczenia.Text = "011000";
+    f.txtDataUrodzenia.Text = "14-03-1975";
+    f.cmdZapiszZmiany();
+    auto recs = d.osoby();
+    ASSERT_EQ(recs.size(), 1u);
+    EXPECT_EQ(recs[0].s(Osoba::Nazwisko), "NOWAK");
+}
+
+TEST(Osoba1, ErrorsInBaseBox) {
+    DemoList d;
+    auto recs = d.osoby();
+    recs[3].set(Osoba::Nazwisko, "");
+    recs[3].set(Osoba::Pesel, "");
+    core::writeAll(d.per(), recs);
+    d.s.NazwiskoOsoby = "";
+    d.s.KluczOsoby = "";
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    EXPECT_EQ(ui.lines(), lines({"[Błedy w Bazie]  Błędy w bazie - przeprowadź Kalibrowanie Bazy i sortowanie pracownikow po kalibracji"}));
+    EXPECT_EQ(f.txtImie.Text, "KATARZYNA");
+}
+
+TEST(Osoba1, PostalLookupAndBirthDate) {
+    DemoList d;
+    d.wybierz(0);
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    f.txtKod.Text = "34-700 ";
+    f.txtKod_Change();
+    EXPECT_EQ(f.txtKod.Text, "34-700");
+    EXPECT_EQ(f.txtMiejscowosc.Text, "Rabka-Zdrój");
+    EXPECT_EQ(f.txtPoczta.Text, "Rabka-Zdrój");
+    EXPECT_EQ(f.txtGmina.Text, "Rabka-Zdrój");
+    EXPECT_EQ(f.txtPowiat.Text, "Nowy Targ");
+    EXPECT_EQ(f.txtWojewodztwo.Text, "Małopolskie");
+    f.txtKod.Text = "32-40";  // five characters: no lookup
+    f.txtKod_Change();
+    EXPECT_EQ(f.txtMiejscowosc.Text, "Rabka-Zdrój");
+    f.txtKod.Text = "99-999";  // unknown: the five fields emptied
+    f.txtKod_Change();
+    for (auto* c : {&f.txtMiejscowosc, &f.txtPoczta, &f.txtGmina, &f.txtPowiat, &f.txtWojewodztwo}) EXPECT_EQ(c->Text, "");
+
+    f.txtPesel.Text = "85031512345";
+    f.txtDataUrodzenia.Text = "";
+    f.txtDataUrodzenia_Click();
+    EXPECT_EQ(f.txtDataUrodzenia.Text, "15-03-1985");
+    f.txtPesel.Text = "01211512345";
+    f.txtDataUrodzenia.Text = "";
+    f.fire(f.txtDataUrodzenia, &core::Control::Click);
+    EXPECT_EQ(f.txtDataUrodzenia.Text, "15-21-2001");
+    EXPECT_TRUE(ui.boxes.empty());
+}
+
+TEST(Osoba1, EnterMovesOnAndPostFraction) {
+    DemoList d;
+    d.wybierz(0);
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    struct {
+        core::Control* c;
+        const char* next;
+    } cases[] = {{&f.txtNazwisko, "txtImie"}, {&f.txtImie, "txtPesel"}, {&f.txtEtat, "txtEtat2"}};
+    for (const auto& c : cases) {
+        f.FocusTo.clear();
+        f.fire(*c.c, &core::Control::KeyEnter);
+        EXPECT_EQ(f.FocusTo, c.next);
+    }
+    f.txtEtat.Text = "1";
+    f.txtEtat2.Text = "3";
+    f.fire(f.txtEtat2, &core::Control::Change);
+    EXPECT_EQ(f.lbUlamekEtatu.Caption, "0.33");
+    EXPECT_DOUBLE_EQ(d.s.Osoba.UlamekEtatu, static_cast<double>(33.33f) / 100);
+}
+
+TEST(Osoba1, OtherScreensOfThePersonByName) {
+    DemoList d;
+    d.wybierz(4);  // KOWALENKO, a foreigner
+    core::Screens screens;
+    std::vector<std::string> opened;
+    core::EkranOsoby seen;
+    screens.add("frmPlaca", [&](core::Session& s, core::Dialogs&) {
+        opened.push_back("frmPlaca");
+        seen = s.Osoba;
+    });
+    screens.add("frmPotracenia", [&](core::Session&, core::Dialogs&) { opened.push_back("frmPotracenia"); });
+    ScriptedDialogs ui;
+    ui.screens = &screens;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    EXPECT_TRUE(f.placa.Enabled);
+    EXPECT_TRUE(f.potr.Enabled);
+    for (auto* c : {&f.Zasilki, &f.chorobowe, &f.urlopy, &f.Roczna, &f.mnuMiesieczne, &f.mnuRoczne, &f.CzasPracy, &f.CmdKadry})
+        EXPECT_FALSE(c->Enabled) << c->Name;
+    EXPECT_TRUE(f.lista.Enabled);
+    f.txtEtat.Text = "1";
+    f.txtEtat2.Text = "2";
+    f.fire(f.placa, &core::Control::Click);
+    f.fire(f.potr, &core::Control::Click);
+    EXPECT_EQ(opened, (std::vector<std::string>{"frmPlaca", "frmPotracenia"}));
+    EXPECT_TRUE(seen.Otwarty);
+    EXPECT_EQ(seen.Etat, "1");
+    EXPECT_EQ(seen.Etat2, "2");
+    EXPECT_EQ(seen.Paszport, "FP123456");
+    EXPECT_EQ(seen.Obywatelstwo, "UKRAIŃSKIE");
+    EXPECT_EQ(seen.DataZatrudnienia, "01-06-2018");
+    EXPECT_EQ(seen.Grupa, "a");
+    f.fire(f.lista, &core::Control::Click);
+    EXPECT_TRUE(f.Unloaded);
+    EXPECT_TRUE(ui.boxes.empty());
+}
