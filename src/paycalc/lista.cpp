@@ -1,7 +1,9 @@
 #include "paycalc/lista.h"
 
 #include <algorithm>
+#include <span>
 
+#include "core/fieldboxes.h"
 #include "core/numbers.h"
 #include "core/paths.h"
 #include "core/text.h"
@@ -29,55 +31,132 @@ const char* const kEkranOsoby = "frmOsoba1";
 const char* const kEkranSortowania = "frmSortujKadrowe";
 const char* const kEkranPodgladu = "frmPodgladWydruku";
 
-// A control of a tab's frame showing one field of the tab's file; `pole` 0 for a box without a
-// field.
-struct OpisPola {
-    int pole;
-    const char* nazwa;
-    const char* etykieta;
-    bool okno;  // a text box (an input of the run), else a label (a result)
-};
-
 using namespace Dodatkowy;
 
-// The results every tab shows, with the tab's letter after the name.
-const OpisPola kWyniki[] = {
-    {KwotaBrutto, "lbKwota", "Kwota", false},
-    {PodstawaZdrowotna, "LbPodstawaKasy", "Podstawa zdrowotnej", false},
-    {SkladkaZdrowotna, "lbSkładkaZdr", "Składka zdrowotna", false},
-    {SkladkaIndywidualna, "LbSładkaInd", "Składka zdr. odliczana", false},
-    {StawkaPodatku, "lbStawkaPodatku", "Stawka podatku", false},
-    {PodatekNetto, "LbPodatekNetto", "Podatek", false},
-    {PlacaNetto, "lbPłacaNetto", "Płaca netto", false},
-    {DoWyplaty, "LbDoWypłaty", "Do wypłaty", false},
-    {NaROR, "LbNaKontoROR", "Na konto ROR", false},
-    {NumerKonta, "lbNumerKonta", "Nr konta", false},
-    {OpcjaROR, "lbOpcjaROR", "Na konto (1 = tak)", false},
-    {BruttoOd01, "lbBruttoOd01", "Brutto od 01.01", false},
-    {DataListy, "lbDataListy", "Data listy", false},
+// The fields of the tab's file on each frame: the inputs of the run as text boxes, its results
+// as labels.
+const core::FieldBox kPolaG[] = {
+    {Podstawa, "TxtPodstawaG", "Podstawa", "Frame1", 1, 12, 0, Kind::TextBox},
+    {Il1, "txtIl1", "Planowane - godziny", "Frame1", 2, 12, 0, Kind::TextBox},
+    {Sta1, "txtsta1", "stawka", "Frame1", 2, 12, 1, Kind::TextBox},
+    {Kw1, "LbKw1", "kwota", "Frame1", 2, 12, 2, Kind::Label},
+    {Il2, "txtIl2", "Zastępcze - godziny", "Frame1", 3, 12, 0, Kind::TextBox},
+    {Sta2, "txtSta2", "stawka", "Frame1", 3, 12, 1, Kind::TextBox},
+    {Kw2, "lbKw2", "kwota", "Frame1", 3, 12, 2, Kind::Label},
+    {Il3, "txtIl3", "Indywidua - godziny", "Frame1", 4, 12, 0, Kind::TextBox},
+    {Sta3, "txtSta3", "stawka", "Frame1", 4, 12, 1, Kind::TextBox},
+    {Kw3, "lbKw3", "kwota", "Frame1", 4, 12, 2, Kind::Label},
+    {Il4, "txtIl4", "Nocne - godziny", "Frame1", 5, 12, 0, Kind::TextBox},
+    {Sta4, "txtsta4", "stawka", "Frame1", 5, 12, 1, Kind::TextBox},
+    {Kw4, "lbKw4", "kwota", "Frame1", 5, 12, 2, Kind::Label},
+    {Il5, "txtIl5", "Bibliote. - godziny", "Frame1", 6, 12, 0, Kind::TextBox},
+    {Sta5, "txtSta5", "stawka", "Frame1", 6, 12, 1, Kind::TextBox},
+    {Kw5, "lbKw5", "kwota", "Frame1", 6, 12, 2, Kind::Label},
+    {Il6, "txtIl6", "Dow.dziec - godziny", "Frame1", 7, 12, 0, Kind::TextBox},
+    {Sta6, "txtSta6", "stawka", "Frame1", 7, 12, 1, Kind::TextBox},
+    {Kw6, "lbKw6", "kwota", "Frame1", 7, 12, 2, Kind::Label},
+    {Il7, "txtIl7", "Inne - godziny", "Frame1", 8, 12, 0, Kind::TextBox},
+    {Sta7, "txtSta7", "stawka", "Frame1", 8, 12, 1, Kind::TextBox},
+    {Kw7, "lbKw7", "kwota", "Frame1", 8, 12, 2, Kind::Label},
+    {RazemKwota, "LbRazemKwotaG", "Razem kwota", "Frame1", 9, 12, 2, Kind::Label},
+    {KwotaBrutto, "lbPodstawaZUSG", "Podstawa składek", "Frame1", 10, 12, 0, Kind::Label},
+    {PodstawaZdrowotna, "LbPodstawaKasyG", "Podstawa zdrowotnej", "Frame1", 10, 12, 1, Kind::Label},
+    {SkladkaZdrowotna, "lbSkładkaZdrG", "Składka zdrowotna", "Frame1", 10, 12, 2, Kind::Label},
+    {SkladkaIndywidualna, "LbSładkaIndG", "Składka zdr. indywid.", "Frame1", 11, 12, 0, Kind::Label},
+    {StawkaPodatku, "lbStawkaPodatkuG", "Stawka podatku", "Frame1", 11, 12, 1, Kind::Label},
+    {PodatekNetto, "LbPodatekNettoG", "Podatek", "Frame1", 11, 12, 2, Kind::Label},
+    {PlacaNetto, "lbPłacaNettoG", "Płaca netto", "Frame1", 12, 12, 0, Kind::Label},
+    {DoWyplaty, "LbDoWypłatyG", "Do wypłaty", "Frame1", 12, 12, 1, Kind::Label},
+    {NaROR, "LbNaKontoRORG", "Na konto ROR", "Frame1", 12, 12, 2, Kind::Label},
+    {NumerKonta, "lbNumerKontaG", "Nr konta", "Frame1", 13, 12, 0, Kind::Label},
+    {OpcjaROR, "lbOpcjaRORG", "Na konto (1 = tak)", "Frame1", 13, 12, 1, Kind::Label},
+    {BruttoOd01, "lbBruttoOd01G", "Brutto od 01.01", "Frame1", 13, 12, 2, Kind::Label},
+    {DataListy, "lbDataListyG", "Data listy", "Frame1", 14, 12, 0, Kind::Label},
 };
 
-const char kLitera[] = {'G', 'D', 'T', 'J', 'U'};
-
-const char* const kKategorie[7] = {"Planowane", "Zastępcze", "Indywidua", "Nocne", "Bibliote.", "Dow.dziec", "Inne"};
-const char* const kGodziny[7] = {"txtIl1", "txtIl2", "txtIl3", "txtIl4", "txtIl5", "txtIl6", "txtIl7"};
-const char* const kStawki[7] = {"txtsta1", "txtSta2", "txtSta3", "txtsta4", "txtSta5", "txtSta6", "txtSta7"};
-const char* const kKwoty[7] = {"LbKw1", "lbKw2", "lbKw3", "lbKw4", "lbKw5", "lbKw6", "lbKw7"};
-
-const OpisPola kDodatki[] = {
-    {Kw1, "txtDodatek1", "Dodatek 1", true},     {Kw2, "txtDodatek2", "Dodatek 2", true},
-    {Kw3, "txtMieszkaniowy", "Mieszkaniowy", true}, {Kw4, "txtWiejski", "Wiejski", true},
-    {Kw5, "txtWyrownanie", "Wyrównanie", true}, {Kw6, "txtNagroda", "Nagroda", true},
-    {Kw7, "txtEkwiwalent", "Ekwiwalent", true}, {BruttoOd01, "txtBrOD01", "Wcześniejsze wypłaty", true},
-    {RazemKwota, "LbRazemKwotaD", "Razem kwota", false},
+const core::FieldBox kPolaD[] = {
+    {Kw1, "txtDodatek1", "Dodatek 1", "Frame2", 1, 12, 0, Kind::TextBox},
+    {Kw2, "txtDodatek2", "Dodatek 2", "Frame2", 1, 12, 1, Kind::TextBox},
+    {Kw3, "txtMieszkaniowy", "Mieszkaniowy", "Frame2", 1, 12, 2, Kind::TextBox},
+    {Kw4, "txtWiejski", "Wiejski", "Frame2", 2, 12, 0, Kind::TextBox},
+    {Kw5, "txtWyrownanie", "Wyrównanie", "Frame2", 2, 12, 1, Kind::TextBox},
+    {Kw6, "txtNagroda", "Nagroda", "Frame2", 2, 12, 2, Kind::TextBox},
+    {Kw7, "txtEkwiwalent", "Ekwiwalent", "Frame2", 3, 12, 0, Kind::TextBox},
+    {BruttoOd01, "txtBrOD01", "Wcześniejsze wypłaty", "Frame2", 3, 12, 1, Kind::TextBox},
+    {RazemKwota, "LbRazemKwotaD", "Razem kwota", "Frame2", 3, 12, 2, Kind::Label},
+    {KwotaBrutto, "lbPodstawaZUSD", "Podstawa składek", "Frame2", 4, 12, 0, Kind::Label},
+    {PodstawaZdrowotna, "LbPodstawaKasyD", "Podstawa zdrowotnej", "Frame2", 4, 12, 1, Kind::Label},
+    {SkladkaZdrowotna, "lbSkładkaZdrD", "Składka zdrowotna", "Frame2", 4, 12, 2, Kind::Label},
+    {SkladkaIndywidualna, "LbSładkaIndD", "Składka zdr. indywid.", "Frame2", 5, 12, 0, Kind::Label},
+    {StawkaPodatku, "lbStawkaPodatkuD", "Stawka podatku", "Frame2", 5, 12, 1, Kind::Label},
+    {PodatekNetto, "LbPodatekNettoD", "Podatek", "Frame2", 5, 12, 2, Kind::Label},
+    {PlacaNetto, "lbPłacaNettoD", "Płaca netto", "Frame2", 6, 12, 0, Kind::Label},
+    {DoWyplaty, "LbDoWypłatyD", "Do wypłaty", "Frame2", 6, 12, 1, Kind::Label},
+    {NaROR, "LbNaKontoRORD", "Na konto ROR", "Frame2", 6, 12, 2, Kind::Label},
+    {NumerKonta, "lbNumerKontaD", "Nr konta", "Frame2", 7, 12, 0, Kind::Label},
+    {OpcjaROR, "lbOpcjaRORD", "Na konto (1 = tak)", "Frame2", 7, 12, 1, Kind::Label},
+    {DataListy, "lbDataListyD", "Data listy", "Frame2", 7, 12, 2, Kind::Label},
 };
+
+const core::FieldBox kPolaT[] = {
+    {Podstawa, "txtOdKwoty", "Od kwoty", "Frame3", 1, 12, 0, Kind::TextBox},
+    {KwotaBrutto, "txtKwotaTrz", "Kwota trzynastki", "Frame3", 2, 12, 0, Kind::TextBox},
+    {PodstawaZdrowotna, "LbPodstawaKasyT", "Podstawa zdrowotnej", "Frame3", 3, 12, 0, Kind::Label},
+    {SkladkaZdrowotna, "lbSkładkaZdrT", "Składka zdrowotna", "Frame3", 3, 12, 1, Kind::Label},
+    {SkladkaIndywidualna, "LbSładkaIndT", "Składka zdr. indywid.", "Frame3", 3, 12, 2, Kind::Label},
+    {StawkaPodatku, "lbStawkaPodatkuT", "Stawka podatku", "Frame3", 4, 12, 0, Kind::Label},
+    {PodatekNetto, "LbPodatekNettoT", "Podatek", "Frame3", 4, 12, 1, Kind::Label},
+    {PlacaNetto, "lbPłacaNettoT", "Płaca netto", "Frame3", 4, 12, 2, Kind::Label},
+    {DoWyplaty, "LbDoWypłatyT", "Do wypłaty", "Frame3", 5, 12, 0, Kind::Label},
+    {NaROR, "LbNaKontoRORT", "Na konto ROR", "Frame3", 5, 12, 1, Kind::Label},
+    {NumerKonta, "lbNumerKontaT", "Nr konta", "Frame3", 5, 12, 2, Kind::Label},
+    {OpcjaROR, "lbOpcjaRORT", "Na konto (1 = tak)", "Frame3", 6, 12, 0, Kind::Label},
+    {BruttoOd01, "lbBruttoOd01T", "Brutto od 01.01", "Frame3", 6, 12, 1, Kind::Label},
+    {DataListy, "lbDataListyT", "Data listy", "Frame3", 6, 12, 2, Kind::Label},
+};
+
+const core::FieldBox kPolaJ[] = {
+    {Podstawa, "txtPodstawaJ", "Podstawa", "Frame4", 1, 12, 0, Kind::TextBox},
+    {KwotaBrutto, "lbKwotaJ", "Kwota", "Frame4", 2, 12, 0, Kind::Label},
+    {PodstawaZdrowotna, "LbPodstawaKasyJ", "Podstawa zdrowotnej", "Frame4", 2, 12, 1, Kind::Label},
+    {SkladkaZdrowotna, "lbSkładkaZdrJ", "Składka zdrowotna", "Frame4", 2, 12, 2, Kind::Label},
+    {SkladkaIndywidualna, "LbSładkaIndJ", "Składka zdr. indywid.", "Frame4", 3, 12, 0, Kind::Label},
+    {StawkaPodatku, "lbStawkaPodatkuJ", "Stawka podatku", "Frame4", 3, 12, 1, Kind::Label},
+    {PodatekNetto, "LbPodatekNettoJ", "Podatek", "Frame4", 3, 12, 2, Kind::Label},
+    {PlacaNetto, "lbPłacaNettoJ", "Płaca netto", "Frame4", 4, 12, 0, Kind::Label},
+    {DoWyplaty, "LbDoWypłatyJ", "Do wypłaty", "Frame4", 4, 12, 1, Kind::Label},
+    {NaROR, "LbNaKontoRORJ", "Na konto ROR", "Frame4", 4, 12, 2, Kind::Label},
+    {NumerKonta, "lbNumerKontaJ", "Nr konta", "Frame4", 5, 12, 0, Kind::Label},
+    {OpcjaROR, "lbOpcjaRORJ", "Na konto (1 = tak)", "Frame4", 5, 12, 1, Kind::Label},
+    {BruttoOd01, "lbBruttoOd01J", "Brutto od 01.01", "Frame4", 5, 12, 2, Kind::Label},
+    {DataListy, "lbDataListyJ", "Data listy", "Frame4", 6, 12, 0, Kind::Label},
+};
+
+const core::FieldBox kPolaU[] = {
+    {Podstawa, "txtPodstawaU", "Podstawa", "frame5", 1, 12, 0, Kind::TextBox},
+    {KwotaBrutto, "lbKwotaU", "Kwota", "frame5", 2, 12, 0, Kind::Label},
+    {PodstawaZdrowotna, "LbPodstawaKasyU", "Podstawa zdrowotnej", "frame5", 2, 12, 1, Kind::Label},
+    {SkladkaZdrowotna, "lbSkładkaZdrU", "Składka zdrowotna", "frame5", 2, 12, 2, Kind::Label},
+    {SkladkaIndywidualna, "LbSładkaIndU", "Składka zdr. indywid.", "frame5", 3, 12, 0, Kind::Label},
+    {StawkaPodatku, "lbStawkaPodatkuU", "Stawka podatku", "frame5", 3, 12, 1, Kind::Label},
+    {PodatekNetto, "LbPodatekNettoU", "Podatek", "frame5", 3, 12, 2, Kind::Label},
+    {PlacaNetto, "lbPłacaNettoU", "Płaca netto", "frame5", 4, 12, 0, Kind::Label},
+    {DoWyplaty, "LbDoWypłatyU", "Do wypłaty", "frame5", 4, 12, 1, Kind::Label},
+    {NaROR, "LbNaKontoRORU", "Na konto ROR", "frame5", 4, 12, 2, Kind::Label},
+    {NumerKonta, "lbNumerKontaU", "Nr konta", "frame5", 5, 12, 0, Kind::Label},
+    {OpcjaROR, "lbOpcjaRORU", "Na konto (1 = tak)", "frame5", 5, 12, 1, Kind::Label},
+    {BruttoOd01, "lbBruttoOd01U", "Brutto od 01.01", "frame5", 5, 12, 2, Kind::Label},
+    {DataListy, "lbDataListyU", "Data listy", "frame5", 6, 12, 0, Kind::Label},
+};
+
+const std::span<const core::FieldBox> kPola[5] = {kPolaG, kPolaD, kPolaT, kPolaJ, kPolaU};
 
 // The type texts of the lists by their group letters.
-struct Rodzaj_ {
+struct TypListy {
     const char* grupa;
     const char* tekst;
 };
-const Rodzaj_ kRodzajeList[] = {
+const TypListy kTypyList[] = {
     {"n", "Nauczyciele"}, {"a", "Administracja"}, {"p", "Produkcja"}, {"u", "Umowy zlecenia"},
 };
 
@@ -85,7 +164,7 @@ const Rodzaj_ kRodzajeList[] = {
 
 std::string rodzajListy(const std::string& grupa) {
     const std::string g = core::LCase(core::Trim(grupa));
-    for (const Rodzaj_& r : kRodzajeList)
+    for (const TypListy& r : kTypyList)
         if (g == r.grupa) return r.tekst;
     return "Inne";
 }
@@ -166,72 +245,28 @@ core::Control& ListaScreen::ramka(int tab) {
 }
 
 core::Control* ListaScreen::pole(int tab, int field) {
-    for (const PoleRamki& p : pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)])
-        if (p.pole == field) return p.c;
-    return nullptr;
+    core::FieldBoxes& p = *pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)];
+    return p.has(field) ? &p[field] : nullptr;
 }
 
 void ListaScreen::zbudujRamki() {
     core::Control* nazwiska[] = {&lbNazwiskoImie1, &lbNazwiskoImie2, &lbNazwiskoImie3, &lbNazwiskoImie4,
                                  &lbNazwiskoImie5};
     for (int t = 1; t <= 5; ++t) {
-        const std::string frame = ramka(t).Name;
-        nazwiska[t - 1]->in(frame).at(0, 0, 3);
-        auto& pola = pola_[static_cast<std::size_t>(t - 1)];
-        auto dodaj = [&](int field, const std::string& nazwa, const std::string& etykieta, bool okno, int row, int slot) {
-            auto c = std::make_unique<core::Control>(this, nazwa, okno ? Kind::TextBox : Kind::Label);
-            c->in(frame).at(row, slot).label(etykieta).width(12);
-            c->Locked = true;
-            pola.push_back({c.get(), field});
-            kontrolki_.push_back(std::move(c));
-        };
-        int row = 1;
-        switch (rodzajZakladki(t)) {
-        case Rodzaj::God:
-            dodaj(Podstawa, "TxtPodstawaG", "Podstawa", true, row++, 0);
-            for (int i = 0; i < 7; ++i, ++row) {
-                dodaj(Il1 + i, kGodziny[i], std::string(kKategorie[i]) + " - godziny", true, row, 0);
-                dodaj(Sta1 + i, kStawki[i], "stawka", true, row, 1);
-                dodaj(Kw1 + i, kKwoty[i], "kwota", false, row, 2);
-            }
-            dodaj(RazemKwota, "LbRazemKwotaG", "Razem kwota", false, row++, 2);
-            break;
-        case Rodzaj::Dod:
-            for (std::size_t i = 0; i < std::size(kDodatki); ++i)
-                dodaj(kDodatki[i].pole, kDodatki[i].nazwa, kDodatki[i].etykieta, kDodatki[i].okno,
-                      row + static_cast<int>(i / 3), static_cast<int>(i % 3));
-            row += 3;
-            break;
-        case Rodzaj::Trz:
-            dodaj(Podstawa, "txtOdKwoty", "Od kwoty", true, row, 0);
-            txtRokDoPodstawy.in(frame).at(row, 1).label("Rok do podstawy").width(6);
-            txtRokDoPodstawy.ToolTipText = "Rok, z którego liczy się podstawę (puste = rok daty listy)";
-            cmdWyliczPodstawe_.in(frame).at(row++, 2);
-            cmdWyliczPodstawe_.ToolTipText =
-                "Podstawa składek wybranej osoby w roku: kartoteki miesięcy i listy dodatkowe (bez trzynastki)";
-            dodaj(KwotaBrutto, "txtKwotaTrz", "Kwota trzynastki", true, row++, 0);
-            break;
-        case Rodzaj::Jub:
-            dodaj(Podstawa, "txtPodstawaJ", "Podstawa", true, row, 0);
-            lbUwagaJ.in(frame).at(row++, 1, 2);
-            break;
-        case Rodzaj::SwU: dodaj(Podstawa, "txtPodstawaU", "Podstawa", true, row++, 0); break;
-        }
-        int i = 0;
-        for (const OpisPola& o : kWyniki) {
-            if (pole(t, o.pole)) continue;  // shown above as an input
-            std::string nazwa = std::string(o.nazwa) + kLitera[t - 1];
-            std::string etykieta = o.etykieta;
-            if (o.pole == KwotaBrutto && (t == 1 || t == 2)) {
-                nazwa = std::string("lbPodstawaZUS") + kLitera[t - 1];
-                etykieta = "Podstawa składek";
-            }
-            dodaj(o.pole, nazwa, etykieta, o.okno, row + i / 3, i % 3);
-            ++i;
-        }
+        nazwiska[t - 1]->in(ramka(t).Name).at(0, 0, 3);
+        pola_.push_back(std::make_unique<core::FieldBoxes>(*this, kPola[t - 1]));
+        core::FieldBoxes& p = *pola_.back();
+        // Read-only until the runs of the tabs come.
+        for (std::size_t i = 0; i < p.size(); ++i) p.box(i).Locked = true;
     }
+    txtRokDoPodstawy.in("Frame3").at(1, 1).label("Rok do podstawy").width(6);
+    txtRokDoPodstawy.ToolTipText = "Rok, z którego liczy się podstawę (puste = rok daty listy)";
+    cmdWyliczPodstawe_.in("Frame3").at(1, 2);
+    cmdWyliczPodstawe_.ToolTipText =
+        "Podstawa składek wybranej osoby w roku: kartoteki miesięcy i listy dodatkowe (bez trzynastki)";
+    lbUwagaJ.in("Frame4").at(1, 1, 2);
     // The base of the thirteenth pay is typed or computed here.
-    if (core::Control* c = pole(3, Podstawa)) c->Locked = false;
+    (*pola_[2])[Podstawa].Locked = false;
 }
 
 void ListaScreen::Load() {
@@ -309,12 +344,7 @@ void ListaScreen::pokazRamke(int tab) {
     ramka(tab).Visible = true;
 }
 
-void ListaScreen::wyczysc(int tab) {
-    for (const PoleRamki& p : pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)]) {
-        p.c->Text.clear();
-        p.c->Caption.clear();
-    }
-}
+void ListaScreen::wyczysc(int tab) { pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)]->clear(); }
 
 void ListaScreen::pokazRekord(int tab) {
     wyczysc(tab);
@@ -323,12 +353,7 @@ void ListaScreen::pokazRekord(int tab) {
     if (!core::fileExists(file)) return;
     for (const Record& r : Dodatkowy::readAll(file)) {
         if (r.s(Dodatkowy::Klucz) != s.KluczOsoby) continue;
-        for (const PoleRamki& p : pola_[static_cast<std::size_t>(tab - 1)]) {
-            if (p.c->kind == Kind::TextBox)
-                p.c->Text = r.s(p.pole);
-            else
-                p.c->Caption = r.s(p.pole);
-        }
+        pola_[static_cast<std::size_t>(tab - 1)]->fill(r);
         return;
     }
 }
@@ -409,7 +434,6 @@ void ListaScreen::cmdWybrane() {
         ui.msgBox("Najpierw wybierz osobę z listy.", Buttons::OK, Icon::Exclamation, "Pokaż wybrane");
         return;
     }
-    s.NowyZapis.clear();
     ui.open(kEkranOsoby, s);
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "core/fieldboxes.h"
 #include "core/form.h"
 #include "core/session.h"
 #include "paycalc/dodatkowe_record.h"
@@ -96,10 +97,6 @@ public:
     core::Control lbUwagi{this, "lbUwagi", core::Kind::Label};
 
 private:
-    struct PoleRamki {
-        core::Control* c;
-        int pole;
-    };
     void zbudujRamki();
     void pokazRamke(int tab);
     // Fills the tab's frame with the chosen person's record of the tab's file, or clears it.
@@ -113,8 +110,8 @@ private:
     void polecenia(bool wlaczone);
     void ustawPrzyciski();
 
-    std::array<std::vector<PoleRamki>, 5> pola_;
-    std::vector<std::unique_ptr<core::Control>> kontrolki_;
+    // The controls of each tab's frame bound to the fields of the tab's file.
+    std::vector<std::unique_ptr<core::FieldBoxes>> pola_;
 };
 
 }  // namespace paycalc

@@ -238,11 +238,11 @@ TEST(Lista, CommandsOpenTheirScreensByName) {
     e.kliknij("cmdDrukListy");
     e.kliknij("cmdPodglad");
     e.kliknij("CmdPaski");
-    EXPECT_EQ(e.otwarte, (std::vector<std::string>{"frmOsoba1 00000000000 Nowe N", "frmOsoba1 88110578938 ZIELIŃSKI ",
-                                                   "frmSortujKadrowe 88110578938 ZIELIŃSKI ",
-                                                   "cmdDrukListy 88110578938 ZIELIŃSKI ",
-                                                   "frmPodgladWydruku 88110578938 ZIELIŃSKI ",
-                                                   "CmdPaski 88110578938 ZIELIŃSKI "}));
+    EXPECT_EQ(e.otwarte, (std::vector<std::string>{"frmOsoba1 00000000000 Nowe N", "frmOsoba1 88110578938 ZIELIŃSKI N",
+                                                   "frmSortujKadrowe 88110578938 ZIELIŃSKI N",
+                                                   "cmdDrukListy 88110578938 ZIELIŃSKI N",
+                                                   "frmPodgladWydruku 88110578938 ZIELIŃSKI N",
+                                                   "CmdPaski 88110578938 ZIELIŃSKI N"}));
     EXPECT_EQ(e.s.ImieOsoby, "PIOTR");
     // Without the screens the buttons are off.
     ListaScreen bez(e.ui, e.s);
