@@ -29,6 +29,8 @@ void TextPrinter::newPage() {
 
 void TextPrinter::endDoc() {
     if (pendingOpen_) flushLine();
+    // A page feed with nothing printed after it gives no sheet.
+    if (current_.size() > 1 && current_.back().empty()) current_.pop_back();
     if (!current_.empty()) docs_.push_back(std::move(current_));
     current_.clear();
 }

@@ -74,6 +74,11 @@ struct Session {
     // The open pay list.
     std::string NazwaZbioru, NazwaListy, Grupa, NumerListy, Rezerwa4;
     std::filesystem::path SciezkaBazy, SciezkaOsob;
+    // Printing: the mode (0 the pay list, 1 the payslips), the page counter, which runs on from
+    // one print to the next in the same run of the program, and the kind word of the list head.
+    int TrybDruku = 0;
+    int Strona = 1;
+    std::string RodzajListy;
 
     // The chosen employee.
     std::string KluczOsoby, NazwiskoOsoby, ImieOsoby, KodUbezpieczeniaOsoby;

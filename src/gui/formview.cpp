@@ -8,6 +8,7 @@
 #include <QFileSystemModel>
 #include <QFontDatabase>
 #include <QGridLayout>
+#include <QScrollBar>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -223,7 +224,11 @@ QWidget* FormView::make(Control& c) {
     case Kind::ListBox: {
         auto* l = new QListWidget(this);
         if (c.Mono) l->setFont(monoFont());
-        if (c.Width > 0) l->setMinimumWidth(QFontMetrics(l->font()).horizontalAdvance('0') * (c.Width + 4));
+        // A width in characters; a list of several lines (MultiLine) shows a page of them.
+        if (c.Width > 0)
+            l->setMinimumWidth(QFontMetrics(l->font()).horizontalAdvance(QString(c.Width + 2, '0')) +
+                               l->verticalScrollBar()->sizeHint().width() + 2 * l->frameWidth());
+        if (c.MultiLine) l->setMinimumHeight(QFontMetrics(l->font()).lineSpacing() * 30);
         connect(l, &QListWidget::currentRowChanged, this, [this, &c](int) {
             if (!busy_) run(c, &Control::Click);
         });

@@ -2,6 +2,7 @@
 
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
+#include "printing/screens.h"
 #include "reference/screens.h"
 
 namespace gui {
@@ -10,6 +11,7 @@ void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
     personnel::registerScreens(screens);
     payinputs::registerScreens(screens);
+    printing::registerScreens(screens);
 }
 
 }  // namespace gui

@@ -424,6 +424,7 @@ void Osoba1Screen::cmdZapiszNowaOsobe() {
     guarded([&] {
         const fs::path plik = Osoba::path(s);
         std::string tekst = core::fileExists(plik) ? core::readFileText(plik) : std::string();
+        if (!tekst.empty() && tekst.back() != '\n') tekst += "\r\n";
         const int liczba = core::fileExists(plik) ? static_cast<int>(Osoba::readAll(plik).size()) : 0;
         // 8. The record from the controls: the citizenship always "POLSKIE" (the first "Zapisz
         // zmiany" stores the real one), the list date as the date of hire, status 1.

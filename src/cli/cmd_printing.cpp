@@ -1,0 +1,70 @@
+// Commands of the printed lists: the pay list, the payslips and the banknote specification of a
+// list in the session's month, printed as text or PDF.
+#include "cli/cli.h"
+#include "core/error.h"
+#include "paycalc/karta_record.h"
+#include "printing/lista_plac.h"
+#include "printing/specyfikacja.h"
+#include "reference/catalogue.h"
+
+namespace {
+
+// Opens the list as frmwybor opens it, and takes the persons of its ledger as the list's count
+// (as cmdKartoteka leaves it).
+void otworzListe(cli::Context& c, const std::string& polecenie) {
+    c.takePrintOptions();
+    if (c.args.size() != 1) throw cli::Usage(polecenie + " wymaga nazwy listy (pliku listy, np. a)");
+    c.openSession();
+    core::Session& s = c.session;
+    std::vector<core::Record> lines = reference::Instal::read(s);
+    int i = reference::Instal::findByStem(lines, c.args[0]);
+    if (i < 0) throw cli::Usage("płatnik " + s.SkrotPlatnika + " nie ma listy " + c.args[0] + " w instal.dat");
+    const core::Record& l = lines[static_cast<std::size_t>(i)];
+    s.NazwaListy = l.s(reference::Instal::NazwaListy);
+    s.NazwaZbioru = reference::Instal::stem(l);
+    s.Grupa = l.s(reference::Instal::Grupa);
+    s.NumerListy = l.s(reference::Instal::NumerListy);
+    s.Rezerwa4 = l.s(reference::Instal::Rezerwa4);
+    s.SciezkaBazy = s.payerPath({"bazy", s.NazwaZbioru + ".dta"});
+    s.SciezkaOsob = s.payerPath({"person", s.NazwaZbioru + ".per"});
+    try {
+        s.LiczbaOsob = static_cast<int>(paycalc::Karta::readAll(paycalc::Karta::path(s)).size());
+    } catch (const core::Error&) {
+        s.LiczbaOsob = 0;  // the print itself reports the missing ledger
+    }
+}
+
+// The pages go out only when the command ended without an error box.
+int wydaj(cli::Context& c) {
+    if (c.dialogs.errorBoxes > 0) return 1;
+    c.emitPrint();
+    return 0;
+}
+
+const char* const kOpcje = " LISTA [--out PLIK | --pdf PLIK]";
+
+cli::Register lista("print-list", {std::string("print-list") + kOpcje,
+                                   "lista płac miesiąca z kartoteki (pytanie o drukarkę: --yes); zapisuje SUMY\\S<lista><RRmm>.sum",
+                                   [](cli::Context& c) {
+                                       otworzListe(c, "print-list");
+                                       printing::cmdDrukListy(c.session, c.dialogs);
+                                       return wydaj(c);
+                                   }});
+
+cli::Register paski("payslips", {std::string("payslips") + kOpcje,
+                                 "paski wypłat z kartoteki, pięć na stronie (pytanie o drukarkę: --yes)",
+                                 [](cli::Context& c) {
+                                     otworzListe(c, "payslips");
+                                     printing::CmdPaski(c.session, c.dialogs);
+                                     return wydaj(c);
+                                 }});
+
+cli::Register banknoty("banknotes", {std::string("banknotes") + kOpcje,
+                                     "specyfikacja banknotów i bilonu do wypłaty gotówką (pytania: --yes)",
+                                     [](cli::Context& c) {
+                                         otworzListe(c, "banknotes");
+                                         printing::CmdSpecyfikacja(c.session, c.dialogs);
+                                         return wydaj(c);
+                                     }});
+
+}  // namespace
