@@ -17,6 +17,7 @@ std::string errorReport(int number, const std::string& step, ReportWords words) 
     case ReportWords::NrLini: return "Błąd Nr " + std::to_string(number) + " w lini " + step;
     case ReportWords::Linni: return " Błąd nr " + std::to_string(number) + " w linni " + step;
     case ReportWords::BezNr: return " Błąd " + std::to_string(number) + "  w linii " + step;
+    case ReportWords::NrKropka: return "Błąd nr." + std::to_string(number) + " w linii " + step;
     case ReportWords::Linii: break;
     }
     return " Błąd nr " + std::to_string(number) + " w linii " + step;

@@ -30,8 +30,9 @@ public:
 };
 
 // The words of the error report. Most screens say " Błąd nr N w linii S"; some screens use
-// their own spelling, which is part of their text (BezNr: " Błąd N  w linii S").
-enum class ReportWords { Linii, NrLini, Linni, BezNr };
+// their own spelling, which is part of their text (BezNr: " Błąd N  w linii S"; NrKropka:
+// "Błąd nr.N w linii S").
+enum class ReportWords { Linii, NrLini, Linni, BezNr, NrKropka };
 std::string errorReport(const Error& e, ReportWords words = ReportWords::Linii);
 std::string errorReport(int number, const std::string& step, ReportWords words = ReportWords::Linii);
 

@@ -39,7 +39,7 @@ void Form::guarded(const std::function<void()>& work) {
     try {
         work();
     } catch (const Error& e) {
-        ui.msgBox(errorReport(e, Words), Buttons::OK, Icon::Critical);
+        ui.msgBox(errorReport(e, Words), Buttons::OK, Icon::Critical, ErrorTitle);
     } catch (const std::exception& e) {
         ui.msgBox(std::string("Nieoczekiwany błąd: ") + e.what(), Buttons::OK, Icon::Critical);
     }

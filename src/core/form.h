@@ -159,6 +159,7 @@ public:
     std::string Name;
     std::string Caption;
     ReportWords Words;
+    std::string ErrorTitle;  // the title of the error report box, when the screen gives one
     bool Unloaded = false;
     bool Visible = true;
     std::string FocusTo;

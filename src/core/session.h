@@ -82,6 +82,7 @@ struct Session {
 
     // The chosen employee.
     std::string KluczOsoby, NazwiskoOsoby, ImieOsoby, KodUbezpieczeniaOsoby;
+    std::string NumerOsoby;  // the running number of the person's line on the list screen
     EkranOsoby Osoba;
     int LiczbaOsob = 0;  // the number of people on the open list
     // "N" asks the pay screen to show the record again after it has made one.

@@ -1,5 +1,7 @@
 #include "gui/formview.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QCalendarWidget>
 #include <QCheckBox>
@@ -124,14 +126,21 @@ void FormView::build() {
         actions_[c->Name] = a;
         connect(a, &QAction::triggered, this, [this, c] { run(*c, &Control::Click); });
     }
-    // Frames before the controls inside them.
+    // Frames are made before the controls inside them.
     for (Control* c : form_.controls())
-        if (c->kind == Kind::Frame) place(*c, make(*c));
+        if (c->kind == Kind::Frame) make(*c);
     // Label controls shown as another control's label are placed with that control.
     for (Control* c : form_.controls())
         if (!c->LabelControl.empty()) buddies_.insert(c->LabelControl);
-    for (Control* c : form_.controls()) {
-        if (c->kind == Kind::Frame || c->kind == Kind::Menu) continue;
+    // Controls with a row of their own first, so that a control without one goes below them.
+    std::vector<Control*> order(form_.controls().begin(), form_.controls().end());
+    std::stable_partition(order.begin(), order.end(), [](Control* c) { return c->LayoutRow >= 0; });
+    for (Control* c : order) {
+        if (c->kind == Kind::Menu) continue;
+        if (c->kind == Kind::Frame) {
+            place(*c, widget(c->Name));
+            continue;
+        }
         if (buddies_.count(c->Name)) {
             if (!widget(c->Name)) make(*c);
             continue;

@@ -1,5 +1,6 @@
 #include "gui/routes.h"
 
+#include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
 #include "printing/screens.h"
@@ -11,6 +12,7 @@ void registerAllScreens(core::Screens& screens) {
     reference::registerScreens(screens);
     personnel::registerScreens(screens);
     payinputs::registerScreens(screens);
+    paycalc::registerScreens(screens);
     printing::registerScreens(screens);
 }
 

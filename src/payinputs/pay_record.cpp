@@ -1,6 +1,7 @@
 #include "payinputs/pay_record.h"
 
 #include "core/paths.h"
+#include "core/text.h"
 #include "personnel/person_record.h"
 
 using core::FieldType;
@@ -225,7 +226,8 @@ core::Record nowyRekordPlacowy(double stawka1, int numer) {
 }
 
 std::string kluczOsoby(const core::Record& p) {
-    return personnel::kluczOsoby(p.s(Pay::Obywatelstwo), p.s(Pay::Pesel), p.s(Pay::Dokument));
+    // The calibration of the pay file keeps the document number padded to 11 characters.
+    return personnel::kluczOsoby(p.s(Pay::Obywatelstwo), p.s(Pay::Pesel), core::RTrim(p.s(Pay::Dokument)));
 }
 
 }  // namespace payinputs

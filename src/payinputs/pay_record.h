@@ -57,8 +57,8 @@ int replace(const std::filesystem::path& file, const std::string& klucz,
 // "POLSKIE", `Numer` as given.
 core::Record nowyRekordPlacowy(double stawka1, int numer);
 
-// The identifier of a pay record: Pesel, or Dokument for a citizenship other than Polish
-// (the rule of the personnel file).
+// The identifier of a pay record: Pesel, or Dokument (without the blanks after it) for a
+// citizenship other than Polish (the rule of the personnel file).
 std::string kluczOsoby(const core::Record& pay);
 
 }  // namespace payinputs

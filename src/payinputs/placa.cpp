@@ -28,44 +28,43 @@ enum class Rodzaj {
     Tekst   // a variant holding the typed text
 };
 
-struct Box {
-    int field;
-    const char* control;
-    const char* label;  // "" for txtWychowawczy, whose label is Label10
-    const char* frame;
-    Rodzaj rodzaj;
-    int width;
-};
+// How a box is taken into its field: the floats by their leading numbers, the running gross
+// too, the other variants as typed.
+Rodzaj rodzaj(int field) {
+    if (Pay::schema().fields[field - 1].type == core::FieldType::Float) return Rodzaj::Kwota;
+    return field == Pay::BruttoOd01 ? Rodzaj::Liczba : Rodzaj::Tekst;
+}
 
-const Box kBoxes[] = {
-    {Pay::Zasadnicza, "txtZasadnicza", "Z&Asadnicza", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Funkcyjny, "txtFunkcyjny", "&Funkcyjny", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Stazowy, "txtStazowy", "&Stażowy", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Premia, "txtPremia", "&Premia(k^%)", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Specjalny, "txtSpecjalny", "Spe&Cjalny", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Inny, "txtInny", "&Nagroda", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Motywacyjny, "txtMotywacyjny", "&Motywacyjny", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Wiejski, "txtWiejski", "&Wiejski(k^%)", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Specjalistyczny, "txtSpecjalistyczny", "Spec&Jalistyczny", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Wychowawczy, "txtWychowawczy", "", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Trudnosciowy, "txtTrudnosciowy", "&Trudnościo.K^%", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Ekwiwalent, "txtEkwiwalent", "&Ekwiwalent", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Nocny, "txtNocny", "&Dodatek nocny", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Wyrownania, "txtWyrownania", "Wy&równania +/-", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Szkodliwy, "txtSzkodliwy", "Sz&Kodliwy", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::Mieszkaniowy, "txtMieszkaniowy", "Mieszka&Niowy K^%", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::StawkaP, "txtStawkaP", "Stawka zaszeregowania", "fraSkladniki", Rodzaj::Kwota, 10},
-    {Pay::KosztyUzyskania, "txtKosztyUzyskania", "Koszty uzyskania(k^%)", "fraPodatek", Rodzaj::Kwota, 10},
-    {Pay::KwotaUlgi, "txtKwotaUlgi", "Kwota ulgi podatkowa", "fraPodatek", Rodzaj::Kwota, 10},
-    {Pay::ZastosStaPOD, "txtZastosStaPOD", "Zastosowana st.podat(k^%)", "fraPodatek", Rodzaj::Kwota, 10},
-    {Pay::UlgaInwestycyjna, "txtUlgaInwestycyjna", "Kwota Ulgi Inwestycyjnej", "fraPodatek", Rodzaj::Kwota, 10},
-    {Pay::BruttoOd01, "txtBruttoOd01", "Brutto Od 01,01", "fraPodatek", Rodzaj::Liczba, 10},
-    {Pay::DataZatrudnienia, "txtDataZatrudnienia", "DataZatrud.dd/mm/rrrr Od", "fraZatrudnienie", Rodzaj::Tekst, 10},
-    {Pay::DataZatrudnieniaDO, "txtDataZatrudnieniaDO", "Data zatrudnienia Do", "fraZatrudnienie", Rodzaj::Tekst, 10},
-    {Pay::WskaznikEtatu, "txtWskaznikEtatu", "Wskaznik etatu", "fraZatrudnienie", Rodzaj::Kwota, 10},
-    {Pay::WskTabeli, "txtWskTabeli", "Wskaznik z tabeli płac(np M1)", "fraZatrudnienie", Rodzaj::Tekst, 4},
-    {Pay::ROR, "txtROR", "ROR z listy pł(kwota)", "fraROR", Rodzaj::Tekst, 10},
-    {Pay::NumerKontaROR, "txtNumerKontaROR", "Nr konta ROR", "fraROR", Rodzaj::Tekst, 32},
+// The text boxes; txtWychowawczy has no label of its own (Label10 names it).
+const core::FieldBox kBoxes[] = {
+    {Pay::Zasadnicza, "txtZasadnicza", "Z&Asadnicza", "fraSkladniki", -1, 10},
+    {Pay::Funkcyjny, "txtFunkcyjny", "&Funkcyjny", "fraSkladniki", -1, 10},
+    {Pay::Stazowy, "txtStazowy", "&Stażowy", "fraSkladniki", -1, 10},
+    {Pay::Premia, "txtPremia", "&Premia(k^%)", "fraSkladniki", -1, 10},
+    {Pay::Specjalny, "txtSpecjalny", "Spe&Cjalny", "fraSkladniki", -1, 10},
+    {Pay::Inny, "txtInny", "&Nagroda", "fraSkladniki", -1, 10},
+    {Pay::Motywacyjny, "txtMotywacyjny", "&Motywacyjny", "fraSkladniki", -1, 10},
+    {Pay::Wiejski, "txtWiejski", "&Wiejski(k^%)", "fraSkladniki", -1, 10},
+    {Pay::Specjalistyczny, "txtSpecjalistyczny", "Spec&Jalistyczny", "fraSkladniki", -1, 10},
+    {Pay::Wychowawczy, "txtWychowawczy", "", "fraSkladniki", -1, 10},
+    {Pay::Trudnosciowy, "txtTrudnosciowy", "&Trudnościo.K^%", "fraSkladniki", -1, 10},
+    {Pay::Ekwiwalent, "txtEkwiwalent", "&Ekwiwalent", "fraSkladniki", -1, 10},
+    {Pay::Nocny, "txtNocny", "&Dodatek nocny", "fraSkladniki", -1, 10},
+    {Pay::Wyrownania, "txtWyrownania", "Wy&równania +/-", "fraSkladniki", -1, 10},
+    {Pay::Szkodliwy, "txtSzkodliwy", "Sz&Kodliwy", "fraSkladniki", -1, 10},
+    {Pay::Mieszkaniowy, "txtMieszkaniowy", "Mieszka&Niowy K^%", "fraSkladniki", -1, 10},
+    {Pay::StawkaP, "txtStawkaP", "Stawka zaszeregowania", "fraSkladniki", -1, 10},
+    {Pay::KosztyUzyskania, "txtKosztyUzyskania", "Koszty uzyskania(k^%)", "fraPodatek", -1, 10},
+    {Pay::KwotaUlgi, "txtKwotaUlgi", "Kwota ulgi podatkowa", "fraPodatek", -1, 10},
+    {Pay::ZastosStaPOD, "txtZastosStaPOD", "Zastosowana st.podat(k^%)", "fraPodatek", -1, 10},
+    {Pay::UlgaInwestycyjna, "txtUlgaInwestycyjna", "Kwota Ulgi Inwestycyjnej", "fraPodatek", -1, 10},
+    {Pay::BruttoOd01, "txtBruttoOd01", "Brutto Od 01,01", "fraPodatek", -1, 10},
+    {Pay::DataZatrudnienia, "txtDataZatrudnienia", "DataZatrud.dd/mm/rrrr Od", "fraZatrudnienie", -1, 10},
+    {Pay::DataZatrudnieniaDO, "txtDataZatrudnieniaDO", "Data zatrudnienia Do", "fraZatrudnienie", -1, 10},
+    {Pay::WskaznikEtatu, "txtWskaznikEtatu", "Wskaznik etatu", "fraZatrudnienie", -1, 10},
+    {Pay::WskTabeli, "txtWskTabeli", "Wskaznik z tabeli płac(np M1)", "fraZatrudnienie", -1, 4},
+    {Pay::ROR, "txtROR", "ROR z listy pł(kwota)", "fraROR", -1, 10},
+    {Pay::NumerKontaROR, "txtNumerKontaROR", "Nr konta ROR", "fraROR", -1, 32},
 };
 
 // The pay elements summed for the limit of the pension contributions, in this order.
@@ -105,51 +104,39 @@ std::string opisLabel10(const std::string& nip) {
 }
 
 PlacaScreen::PlacaScreen(core::Dialogs& ui, core::Session& session)
-    : Form(ui, "frmPlaca", "Płaca"), s(session), placa_(Pay::schema()) {
+    : Form(ui, "frmPlaca", "Płaca"), s(session), boxes(*this, kBoxes), placa_(Pay::schema()) {
     fraSkladniki.at(0, 0).rows(2);
     fraPodatek.at(0, 1);
     fraZatrudnienie.at(0, 2);
     fraROR.at(1, 1);
     fraSkladki.at(1, 2);
-    int wiersz[5] = {0, 0, 0, 0, 0};
-    auto nr = [](const std::string& frame) {
-        return frame == "fraSkladniki" ? 0 : frame == "fraPodatek" ? 1 : frame == "fraZatrudnienie" ? 2 : 3;
-    };
-    for (const Box& b : kBoxes) {
-        auto c = std::make_unique<core::Control>(this, b.control, Kind::TextBox);
-        c->in(b.frame).at(wiersz[nr(b.frame)]++, 0).width(b.width);
-        if (*b.label)
-            c->label(b.label);
-        else
-            c->labelledBy(Label10);
-        boxes.push_back(std::move(c));
-    }
+    txt(Pay::Wychowawczy).labelledBy(Label10);
     txt(Pay::ZastosStaPOD).tip("Ułamek, np. 0.17; puste pole po kliknięciu przyjmuje stawkę podatku roku");
     txt(Pay::KosztyUzyskania).tip("Kliknięcie wpisuje koszty uzyskania ze stawek roku");
     txt(Pay::KwotaUlgi).tip("Kliknięcie wpisuje kwotę ulgi ze stawek roku");
     txt(Pay::Premia).tip("Kwota albo, poniżej 1, ułamek płacy zasadniczej");
-    cmbRodzajUmowy.in("fraZatrudnienie").at(wiersz[2]++, 0, 2).label("Rodzaj umowy").width(18);
+    cmbRodzajUmowy.in("fraZatrudnienie").at(-1, 0, 2).label("Rodzaj umowy").width(18);
     for (const char* u : kRodzajeUmowy) cmbRodzajUmowy.AddItem(u);
-    fraStazowy.in("fraZatrudnienie").at(wiersz[2]++, 0, 2);
+    fraStazowy.in("fraZatrudnienie").at(-1, 0, 2);
     Option1.in("fraStazowy").at(0, 0);
     Option2.in("fraStazowy").at(0, 1);
 
-    fraDojazd.in("fraPodatek").at(wiersz[1]++, 0, 2);
+    fraDojazd.in("fraPodatek").at(-1, 0, 2);
     Opnie.in("fraDojazd").at(0, 0);
     Optak.in("fraDojazd").at(0, 1);
-    fraRozliczenie.in("fraPodatek").at(wiersz[1]++, 0, 2);
+    fraRozliczenie.in("fraPodatek").at(-1, 0, 2);
     Option3.in("fraRozliczenie").at(0, 0);
     Option4.in("fraRozliczenie").at(0, 1);
-    fraSamotna.in("fraPodatek").at(wiersz[1]++, 0, 2);
+    fraSamotna.in("fraPodatek").at(-1, 0, 2);
     Option5.in("fraSamotna").at(0, 0);
     Option6.in("fraSamotna").at(0, 1);
-    Label25.in("fraPodatek").at(wiersz[1]++, 0, 2);
-    Label27.in("fraPodatek").at(wiersz[1]++, 0, 2);
+    Label25.in("fraPodatek").at(-1, 0, 2);
+    Label27.in("fraPodatek").at(-1, 0, 2);
 
-    fraRorGodziny.in("fraROR").at(wiersz[3]++, 0, 2);
+    fraRorGodziny.in("fraROR").at(-1, 0, 2);
     Option7.in("fraRorGodziny").at(0, 0);
     Option8.in("fraRorGodziny").at(0, 1);
-    fraRorDodatki.in("fraROR").at(wiersz[3]++, 0, 2);
+    fraRorDodatki.in("fraROR").at(-1, 0, 2);
     Option9.in("fraRorDodatki").at(0, 0);
     Option10.in("fraRorDodatki").at(0, 1);
 
@@ -175,19 +162,13 @@ PlacaScreen::PlacaScreen(core::Dialogs& ui, core::Session& session)
     domyslne();
 }
 
-core::Control& PlacaScreen::txt(int field) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i)
-        if (kBoxes[i].field == field) return *boxes[i];
-    throw core::Error(core::err::SubscriptOutOfRange, "frmPlaca", "pole bez okna tekstowego");
-}
-
 std::string PlacaScreen::grupa() const {
     if (!s.Osoba.Grupa.empty()) return s.Osoba.Grupa;
     return placa_.s(Pay::Grupa);
 }
 
 void PlacaScreen::domyslne() {
-    for (auto& b : boxes) b->Text.clear();
+    boxes.clear();
     cmbRodzajUmowy.ListIndex = -1;
     cmbRodzajUmowy.Text.clear();
     for (core::Control* o : {&Option1, &Option3, &Option5, &Opnie, &Option7, &Option9}) setOption(*o);
@@ -196,9 +177,9 @@ void PlacaScreen::domyslne() {
 }
 
 void PlacaScreen::wypelnij(const core::Record& r) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-        const Box& b = kBoxes[i];
-        boxes[i]->Text = b.rodzaj == Rodzaj::Kwota ? core::numText(r.f(b.field)) : r.s(b.field);
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const int field = boxes.def(i).field;
+        boxes.box(i).Text = rodzaj(field) == Rodzaj::Kwota ? core::numText(r.f(field)) : r.s(field);
     }
     // The date of hire and the post as the person screen holds them.
     if (!s.Osoba.DataZatrudnienia.empty()) txt(Pay::DataZatrudnienia).Text = core::Left(s.Osoba.DataZatrudnienia, 10);
@@ -296,17 +277,17 @@ void PlacaScreen::txtZastosStaPOD_Click() {
 }
 
 void PlacaScreen::normalizuj() {
-    for (auto& b : boxes) core::KropkaZamiastPrzecinka(b->Text);
+    for (std::size_t i = 0; i < boxes.size(); ++i) core::KropkaZamiastPrzecinka(boxes.box(i).Text);
 }
 
 void PlacaScreen::przepisz(core::Record& r) {
     const bool bezDaty = r.s(Pay::DataZatrudnienia).empty();
     // 1. The amounts by their leading numbers, the texts as typed.
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-        const Box& b = kBoxes[i];
-        const std::string& t = boxes[i]->Text;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const core::FieldBox& b = boxes.def(i);
+        const std::string& t = boxes.box(i).Text;
         if (b.field == Pay::ZastosStaPOD || b.field == Pay::WskaznikEtatu) continue;
-        switch (b.rodzaj) {
+        switch (rodzaj(b.field)) {
         case Rodzaj::Kwota: {
             const float v = static_cast<float>(core::Val(t));
             if (r.isEmpty(b.field) || r.f(b.field) != v) r.set(b.field, v);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/fieldboxes.h"
 #include "core/form.h"
 #include "core/record.h"
 #include "core/session.h"
@@ -36,7 +37,7 @@ public:
     void txtZastosStaPOD_Click();
 
     // The text box of a field of the pay record.
-    core::Control& txt(int field);
+    core::Control& txt(int field) { return boxes[field]; }
     // Whether a record of the person was found (or made).
     bool maRekord() const { return znaleziony_; }
 
@@ -54,7 +55,7 @@ public:
     core::Control fraRorDodatki{this, "fraRorDodatki", core::Kind::Frame, "ROR z list dodatkowych"};
 
     core::Control Label10{this, "Label10", core::Kind::Label, "Na&Dliczbowe"};
-    std::vector<std::unique_ptr<core::Control>> boxes;
+    core::FieldBoxes boxes;
     core::Control cmbRodzajUmowy{this, "cmbRodzajUmowy", core::Kind::ComboBox};
     core::Control Label25{this, "Label25", core::Kind::Label};
     core::Control Label27{this, "Label27", core::Kind::Label};

@@ -17,16 +17,8 @@ namespace payinputs {
 
 namespace {
 
-struct Box {
-    int field;
-    const char* control;
-    const char* label;
-    const char* frame;
-    int row;
-};
-
 // The text boxes in the order the save command takes them, with their labels and places.
-const Box kBoxes[] = {
+const core::FieldBox kBoxes[] = {
     {Pay::ZFMRata, "txtZFMRata", "Rata miesięczna", "frmZFM", 1},
     {Pay::ZFMPozyczka, "txtZFMPozyczka", "Kwota pożyczki", "frmZFM", 0},
     {Pay::KZPWklady, "txtKZPWklady", "Wysokość wkładów", "frmKZP", 0},
@@ -71,17 +63,15 @@ float skladkaZwiazkowa(float k, float zasadnicza, float podstawa, const std::str
 }
 
 PotraceniaScreen::PotraceniaScreen(core::Dialogs& ui, core::Session& session)
-    : Form(ui, "frmPotracenia", "Potracenia ", core::ReportWords::BezNr), s(session), placa_(Pay::schema()) {
+    : Form(ui, "frmPotracenia", "Potracenia ", core::ReportWords::BezNr),
+      s(session),
+      boxes(*this, kBoxes),
+      placa_(Pay::schema()) {
     frmZFM.at(0, 0);
     frmKZP.at(1, 0);
     fraZwiazki.at(0, 1);
     fraInne.at(1, 1);
-    for (const Box& b : kBoxes) {
-        auto c = std::make_unique<core::Control>(this, b.control, Kind::TextBox);
-        c->in(b.frame).at(b.row, 0).label(b.label).width(10);
-        c->Change = [this] { przelicz(placa_, false); };
-        boxes.push_back(std::move(c));
-    }
+    for (std::size_t i = 0; i < boxes.size(); ++i) boxes.box(i).Change = [this] { przelicz(placa_, false); };
     lbPodstawaDoKZP.in("frmKZP").at(4, 0).label("Podstawa do KZP");
     lbZwiazki.in("fraZwiazki").at(0, 1).label("kwota");
     lbSolid.in("fraZwiazki").at(1, 1).label("kwota");
@@ -108,12 +98,6 @@ PotraceniaScreen::PotraceniaScreen(core::Dialogs& ui, core::Session& session)
         if (!podstawa.empty()) kzpTip += " (" + podstawa + ")";
     }
     txt(Pay::KZPSkladka).tip(kzpTip + ".");
-}
-
-core::Control& PotraceniaScreen::txt(int field) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i)
-        if (kBoxes[i].field == field) return *boxes[i];
-    throw core::Error(core::err::SubscriptOutOfRange, "frmPotracenia", "pole bez okna tekstowego");
 }
 
 void PotraceniaScreen::przelicz(const core::Record& pay, bool strict) {
@@ -165,7 +149,7 @@ void PotraceniaScreen::Load() {
             if (kluczOsoby(r) != s.KluczOsoby) continue;
             found = true;
             placa_ = r;
-            for (std::size_t i = 0; i < std::size(kBoxes); ++i) boxes[i]->Text = r.s(kBoxes[i].field);
+            boxes.fill(r);
         }
         przelicz(placa_, false);
     });
@@ -176,10 +160,11 @@ void PotraceniaScreen::cmdZapisz() {
     guarded([&] {
         // Every value is checked before the file is touched: a box that holds no number stops
         // the save with the file as it was.
-        for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-            core::KropkaZamiastPrzecinka(boxes[i]->Text);
-            SetFocus(*boxes[i]);
-            core::toDoubleOrZero(boxes[i]->Text, boxes[i]->Name);
+        for (std::size_t i = 0; i < boxes.size(); ++i) {
+            core::Control& c = boxes.box(i);
+            core::KropkaZamiastPrzecinka(c.Text);
+            SetFocus(c);
+            core::toDoubleOrZero(c.Text, c.Name);
         }
         FocusTo.clear();
         const core::Schema& schema = Pay::schema();
@@ -187,9 +172,9 @@ void PotraceniaScreen::cmdZapisz() {
             Pay::path(s), s.KluczOsoby,
             [&](core::Record& r) {
                 przelicz(r, true);
-                for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-                    const int field = kBoxes[i].field;
-                    const double value = core::toDoubleOrZero(boxes[i]->Text, boxes[i]->Name);
+                for (std::size_t i = 0; i < boxes.size(); ++i) {
+                    const int field = boxes.def(i).field;
+                    const double value = core::toDoubleOrZero(boxes.box(i).Text, boxes.box(i).Name);
                     if (schema.fields[field - 1].type == core::FieldType::Float)
                         r.set(field, static_cast<float>(value));
                     else

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/fieldboxes.h"
 #include "core/form.h"
 #include "core/record.h"
 #include "core/session.h"
@@ -28,7 +29,7 @@ public:
     void cmdKoniec() { Unload(); }
 
     // The text box of a field of the pay record.
-    core::Control& txt(int field);
+    core::Control& txt(int field) { return boxes[field]; }
     // Shows the base, the two dues and the total for the record `pay` and the typed values.
     // `strict`: a value that is not a number is an error (Error 13 naming its box), else it
     // counts by its leading number.
@@ -39,7 +40,7 @@ public:
     core::Control frmKZP{this, "frmKZP", core::Kind::Frame, "Pożyczka z KZPożyczkowej"};
     core::Control fraZwiazki{this, "fraZwiazki", core::Kind::Frame, "Związki Zawodowe-składki"};
     core::Control fraInne{this, "fraInne", core::Kind::Frame, "Inne potrącenia"};
-    std::vector<std::unique_ptr<core::Control>> boxes;
+    core::FieldBoxes boxes;
     core::Control lbPodstawaDoKZP{this, "lbPodstawaDoKZP", core::Kind::Label};
     core::Control lbZwiazki{this, "lbZwiazki", core::Kind::Label};
     core::Control lbSolid{this, "lbSolid", core::Kind::Label};

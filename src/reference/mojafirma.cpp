@@ -19,49 +19,41 @@ namespace reference {
 
 namespace {
 
-struct Box {
-    int field;
-    const char* control;
-    const char* label;
-    const char* frame;
-    int width;
-};
-
 // The text boxes of the screen, with their labels. The fax, the e-mail address and the
 // post-office box are kept in the reserve items of the record.
-const Box kBoxes[] = {
-    {Firma::SkrotPlatnika, "txtSkrótM", "Skrót", "fraFirma", 12},
-    {Firma::NazwaM, "txtNazwaM", "Nazwa pełna", "fraFirma", 44},
-    {Firma::NazwaSkrocona, "txtNazwaSkrocona", "Nazwa skrócona jak do ZUS", "fraFirma", 31},
-    {Firma::NIP, "txtNIPpes", "Nip ", "fraFirma", 13},
-    {Firma::RegonM, "txtRegonM", "Regon", "fraFirma", 14},
-    {Firma::NazwiskoM, "txtNazwiskoM", "Nazwisko", "fraFirma", 24},
-    {Firma::ImieM, "txtImieM", "Imie", "fraFirma", 16},
-    {Firma::PeselM, "txtPeselM", " Pesel", "fraFirma", 11},
-    {Firma::DataurodzeniaP, "txtDataurodzeniaP", "Data urodzenia", "fraFirma", 8},
-    {Firma::DowodM, "txtDowodM", "Dowód Osobisty", "fraFirma", 10},
-    {Firma::KODM, "txtKODM", "Kod pocztowy", "fraAdres", 6},
-    {Firma::MiejscM, "txtMiejscM", "Miejscowosc", "fraAdres", 24},
-    {Firma::PocztM, "txtPocztM", "Poczta", "fraAdres", 24},
-    {Firma::UlicaM, "txtUlicaM", "Ulica", "fraAdres", 24},
-    {Firma::NumerDomuM, "txtNumerDomuM", "Numer domu", "fraAdres", 6},
-    {Firma::lokM, "txtlokM", "Nr Lokalu", "fraAdres", 6},
-    {Firma::GMINM, "txtGMINM", "Gmina ", "fraAdres", 24},
-    {Firma::PowM, "txtPowM", "Powiat", "fraAdres", 24},
-    {Firma::WOJM, "txtWOJM", "Województwo", "fraAdres", 24},
-    {Firma::TelM, "txtTelM", "Telefon", "fraAdres", 16},
-    {Firma::RezerwaF12, "txtFaxZ", "Fax", "fraAdres", 16},
-    {Firma::RezerwaF13, "txtmailZ", "E-mail", "fraAdres", 24},
-    {Firma::RezerwaF1, "txtSkrPocztowaZ", "Skrytka pocztowa", "fraAdres", 10},
-    {Firma::UrzadSkarbowyM, "txtUrzadSkarbowyM", "Urząd Skarbowy", "fraRozliczenia", 36},
-    {Firma::NrKontaMoj1, "txtNrKontaMoj1", "Konto 1", "fraRozliczenia", 32},
-    {Firma::NrKontaMoj2, "txtNrKontaMoj2", "Konto 2", "fraRozliczenia", 32},
-    {Firma::NrKontaMoj3, "txtNrKontaMoj3", "Konto 3", "fraRozliczenia", 32},
-    {Firma::RodzajPlatnika, "txtRodzajPlatnika", "Rodzaj Płatnika", "fraRozliczenia", 2},
+const core::FieldBox kBoxes[] = {
+    {Firma::SkrotPlatnika, "txtSkrótM", "Skrót", "fraFirma", -1, 12},
+    {Firma::NazwaM, "txtNazwaM", "Nazwa pełna", "fraFirma", -1, 44},
+    {Firma::NazwaSkrocona, "txtNazwaSkrocona", "Nazwa skrócona jak do ZUS", "fraFirma", -1, 31},
+    {Firma::NIP, "txtNIPpes", "Nip ", "fraFirma", -1, 13},
+    {Firma::RegonM, "txtRegonM", "Regon", "fraFirma", -1, 14},
+    {Firma::NazwiskoM, "txtNazwiskoM", "Nazwisko", "fraFirma", -1, 24},
+    {Firma::ImieM, "txtImieM", "Imie", "fraFirma", -1, 16},
+    {Firma::PeselM, "txtPeselM", " Pesel", "fraFirma", -1, 11},
+    {Firma::DataurodzeniaP, "txtDataurodzeniaP", "Data urodzenia", "fraFirma", -1, 8},
+    {Firma::DowodM, "txtDowodM", "Dowód Osobisty", "fraFirma", -1, 10},
+    {Firma::KODM, "txtKODM", "Kod pocztowy", "fraAdres", -1, 6},
+    {Firma::MiejscM, "txtMiejscM", "Miejscowosc", "fraAdres", -1, 24},
+    {Firma::PocztM, "txtPocztM", "Poczta", "fraAdres", -1, 24},
+    {Firma::UlicaM, "txtUlicaM", "Ulica", "fraAdres", -1, 24},
+    {Firma::NumerDomuM, "txtNumerDomuM", "Numer domu", "fraAdres", -1, 6},
+    {Firma::lokM, "txtlokM", "Nr Lokalu", "fraAdres", -1, 6},
+    {Firma::GMINM, "txtGMINM", "Gmina ", "fraAdres", -1, 24},
+    {Firma::PowM, "txtPowM", "Powiat", "fraAdres", -1, 24},
+    {Firma::WOJM, "txtWOJM", "Województwo", "fraAdres", -1, 24},
+    {Firma::TelM, "txtTelM", "Telefon", "fraAdres", -1, 16},
+    {Firma::RezerwaF12, "txtFaxZ", "Fax", "fraAdres", -1, 16},
+    {Firma::RezerwaF13, "txtmailZ", "E-mail", "fraAdres", -1, 24},
+    {Firma::RezerwaF1, "txtSkrPocztowaZ", "Skrytka pocztowa", "fraAdres", -1, 10},
+    {Firma::UrzadSkarbowyM, "txtUrzadSkarbowyM", "Urząd Skarbowy", "fraRozliczenia", -1, 36},
+    {Firma::NrKontaMoj1, "txtNrKontaMoj1", "Konto 1", "fraRozliczenia", -1, 32},
+    {Firma::NrKontaMoj2, "txtNrKontaMoj2", "Konto 2", "fraRozliczenia", -1, 32},
+    {Firma::NrKontaMoj3, "txtNrKontaMoj3", "Konto 3", "fraRozliczenia", -1, 32},
+    {Firma::RodzajPlatnika, "txtRodzajPlatnika", "Rodzaj Płatnika", "fraRozliczenia", -1, 2},
     {Firma::TerminPlatnosciZUSM, "txtTerminPlatnosciZUSM", "Termin przesyłania dokumentów do ZUS (123)",
-     "fraRozliczenia", 2},
-    {Firma::WypadkowaStawkaF, "txtWypadkowaStawkaF", "Stawka wypadkowa Firmy", "fraRozliczenia", 6},
-    {Firma::DodatkiStazowe, "txtDodatkiStazowe", "Dodatki Stażowe (Oskładkowane =T  ,Nie =N ", "fraRozliczenia", 2},
+     "fraRozliczenia", -1, 2},
+    {Firma::WypadkowaStawkaF, "txtWypadkowaStawkaF", "Stawka wypadkowa Firmy", "fraRozliczenia", -1, 6},
+    {Firma::DodatkiStazowe, "txtDodatkiStazowe", "Dodatki Stażowe (Oskładkowane =T  ,Nie =N ", "fraRozliczenia", -1, 2},
 };
 
 bool isWholeLine(int field) { return field == Firma::NazwaM || field == Firma::NazwaSkrocona; }
@@ -71,19 +63,11 @@ const char* const kTytulBledu = "Błędne dane Płatnika";
 }  // namespace
 
 MojaFirmaScreen::MojaFirmaScreen(core::Dialogs& ui, core::Session& session)
-    : Form(ui, "frmMojaFirma", "Nazwa własnej Firmy"), s(session) {
+    : Form(ui, "frmMojaFirma", "Nazwa własnej Firmy"), s(session), boxes(*this, kBoxes) {
     lbPozycja.at(0, 0, 2);
     fraFirma.at(1, 0);
     fraAdres.at(1, 1, 1);
     fraRozliczenia.at(2, 0, 2);
-    int rows[3] = {0, 0, 0};
-    for (const Box& b : kBoxes) {
-        auto c = std::make_unique<core::Control>(this, b.control, Kind::TextBox);
-        std::string frame = b.frame;
-        int col = frame == "fraFirma" ? 0 : frame == "fraAdres" ? 1 : 2;
-        c->in(frame).at(rows[col]++, 0).label(b.label).width(b.width);
-        boxes.push_back(std::move(c));
-    }
     txt(Firma::SkrotPlatnika).Locked = true;
     txt(Firma::SkrotPlatnika).ToolTipText = "Skrót jest nazwą folderu Płatnika; nadaje się go przy dodawaniu Płatnika";
     txt(Firma::DataurodzeniaP).ToolTipText = "ddmmRRRR";
@@ -113,24 +97,20 @@ MojaFirmaScreen::MojaFirmaScreen(core::Dialogs& ui, core::Session& session)
     cmdZamknij_.Click = [this] { Unload(); };
 }
 
-core::Control& MojaFirmaScreen::txt(int field) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i)
-        if (kBoxes[i].field == field) return *boxes[i];
-    throw core::Error(core::err::SubscriptOutOfRange, "frmMojaFirma", "pole bez okna tekstowego");
-}
-
 std::vector<core::Record> MojaFirmaScreen::read() { return readPayers(s); }
 
 void MojaFirmaScreen::show(const std::vector<core::Record>& recs, int index) {
     const int n = static_cast<int>(recs.size());
     Biezacy = n == 0 ? -1 : std::clamp(index, 0, n - 1);
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i)
-        boxes[i]->Text = Biezacy < 0 ? std::string() : recs[static_cast<std::size_t>(Biezacy)].s(kBoxes[i].field);
+    if (Biezacy < 0)
+        boxes.clear();
+    else
+        boxes.fill(recs[static_cast<std::size_t>(Biezacy)]);
     skrotShown_ = txt(Firma::SkrotPlatnika).Text;
     cmdWstecz_.Enabled = Biezacy > 0;
     cmdNext_.Enabled = Biezacy >= 0 && Biezacy < n - 1;
     cmdZnajdz_.Enabled = cmdZmianyM_.Enabled = cmdUsun_.Enabled = cmdKoniecM_.Enabled = Biezacy >= 0;
-    for (auto& b : boxes) b->Enabled = Biezacy >= 0;
+    for (std::size_t i = 0; i < boxes.size(); ++i) boxes.box(i).Enabled = Biezacy >= 0;
     if (Biezacy < 0) {
         lbPozycja.Caption = "Rejestr Płatników jest pusty - dodaj Płatnika.";
     } else {
@@ -209,9 +189,9 @@ void MojaFirmaScreen::cmdDodaj() {
 }
 
 bool MojaFirmaScreen::check() {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-        const Box& b = kBoxes[i];
-        core::Control& c = *boxes[i];
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const core::FieldBox& b = boxes.def(i);
+        core::Control& c = boxes.box(i);
         if (!isWholeLine(b.field) && c.Text.find('"') != std::string::npos) {
             ui.msgBox("Pole \"" + core::Trim(b.label) + "\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.",
                       Buttons::OK, Icon::Exclamation, kTytulBledu);
@@ -231,9 +211,9 @@ bool MojaFirmaScreen::check() {
 }
 
 void MojaFirmaScreen::take(core::Record& r) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-        const Box& b = kBoxes[i];
-        const std::string& t = boxes[i]->Text;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const core::FieldBox& b = boxes.def(i);
+        const std::string& t = boxes.box(i).Text;
         if (b.field == Firma::SkrotPlatnika || r.s(b.field) == t) continue;  // unchanged items keep their form
         if (b.field == Firma::WypadkowaStawkaF) {
             std::string v = core::Trim(core::KropkaZamiastPrzecinka(std::string(t)));

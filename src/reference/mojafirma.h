@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/fieldboxes.h"
 #include "core/form.h"
 #include "core/session.h"
 
@@ -26,7 +27,7 @@ public:
     void cmdKoniecM();
 
     // The text box of a field of MojaFirma.txt.
-    core::Control& txt(int field);
+    core::Control& txt(int field) { return boxes[field]; }
 
     // The position of the shown record in the register, -1 when the register is empty.
     int Biezacy = -1;
@@ -36,7 +37,7 @@ public:
     core::Control fraFirma{this, "fraFirma", core::Kind::Frame, "Płatnik"};
     core::Control fraAdres{this, "fraAdres", core::Kind::Frame, "Adres"};
     core::Control fraRozliczenia{this, "fraRozliczenia", core::Kind::Frame, "Urząd, konta i ZUS"};
-    std::vector<std::unique_ptr<core::Control>> boxes;
+    core::FieldBoxes boxes;
     core::Control lbDataurodzenia{this, "lbDataurodzenia", core::Kind::Label, "ddmmRRRR"};
     core::Control lbRodzajPlatnika{this, "lbRodzajPlatnika", core::Kind::Label,
                                    "N= nie upoważniony do wypłaty zasiłków ZUS , U = upoważniony"};

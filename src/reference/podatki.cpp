@@ -15,73 +15,59 @@ namespace reference {
 
 namespace {
 
-struct Box {
-    int field;
-    const char* control;
-    const char* label;
-    const char* frame;
-    bool number;  // must hold a number (or nothing)
-};
-
 // The text boxes of the screen in the order of the save command, with their labels.
-const Box kBoxes[] = {
-    {Dane::Stawka1, "txtStawka1", "Stawka 1", "fraStawki", true},
-    {Dane::Stawka2, "txtStawka2", "Stawka 2", "fraStawki", true},
-    {Dane::Stawka3, "txtStawka3", "Stawka 3", "fraStawki", true},
-    {Dane::Stawka4, "txtStawka4", "Stawka 4", "fraStawki", true},
-    {Dane::ProgI, "txtProgI", "Progi (2561.20)", "fraStawki", true},
-    {Dane::ProgII, "txtProgII", "Próg II", "fraStawki", true},
-    {Dane::ProgIII, "txtProgIII", "Próg III", "fraStawki", true},
-    {Dane::ProgIV, "txtProgIV", "Próg IV", "fraStawki", true},
-    {Dane::KwotaUlgi, "txtKwotaUlgi", "Kwota ulgi podatkowej", "fraStawki", true},
-    {Dane::KosztyUzyskania, "txtKosztyUzyskania", "Koszty uzyskania normalne", "fraStawki", true},
-    {Dane::Ubrent, "txtUbrent", "Stawka Rentowa", "fraZUS", true},
-    {Dane::sklRentPrd, "txtsklRentPrd", "Stawka Rentowa pracodawcy", "fraZUS", true},
-    {Dane::Ubemer, "txtUbemer", "Stawka Emerytalna", "fraZUS", true},
-    {Dane::UbChor, "txtUbChor", "Stawka Chorobowa", "fraZUS", true},
-    {Dane::UbWypad, "txtUbWypad", "Stawka Wypadkowa", "fraZUS", true},
-    {Dane::Kasach, "txtKasach", "Stawka Zdrowotna Kasa razem  (np.9)", "fraZUS", true},
-    {Dane::FuPr, "txtFuPr", "Stawka  na Fundusz Pracy", "fraZUS", true},
-    {Dane::FGSP, "txtFGSP", "Stawka na Fundusz Gwar.Św.Pr.", "fraZUS", true},
-    {Dane::StaFEP, "txtStaFEP", "Stawka na FEP", "fraZUS", true},
-    {Dane::DniPracy, "txtDniPracy", "Ilość dni pracy w mies.", "fraInne", true},
-    {Dane::ZR, "txtZR", "Kwota zasilku rodzinego  na 1 os.", "fraInne", true},
-    {Dane::Solid, "txtSolid", "Solidarność", "fraInne", true},
-    {Dane::SklZWZ, "txtSklZWZ", "Związek Zawodowy", "fraInne", true},
-    {Dane::ZPielegnacyjny, "txtZPielegnacyjny", "Kwota zasiłku pielęgnacyjnego", "fraInne", true},
-    {Dane::SklKZP, "txtSklKZP", "Kwota(wsk) potrąceń na KZP", "fraInne", true},
-    {Dane::SklPZU, "txtSklPZU", "Składka na PZU", "fraInne", true},
-    {Dane::MInBRUTTO, "txtMInBRUTTO", "Najniższe wynagrodzenie brutto", "fraInne", true},
-    {Dane::Trzynastka, "txtTrzynastka", "Wskaźnik trzynastki np. 8.5", "fraInne", true},
-    {Dane::KwotaGRE, "txtKwotaGRE", "Graniczna kwota do składek Emerytanej i Rentowej.", "fraZUS", true},
-    {Dane::PRKu, "txtPRKu", "Koszty uzyskania zwiekszone", "fraStawki", true},
-    {Dane::stZDI, "txtstZDI", "Stawka Zdrowotna Indywidualna", "fraZUS", true},
+const core::FieldBox kBoxes[] = {
+    {Dane::Stawka1, "txtStawka1", "Stawka 1", "fraStawki"},
+    {Dane::Stawka2, "txtStawka2", "Stawka 2", "fraStawki"},
+    {Dane::Stawka3, "txtStawka3", "Stawka 3", "fraStawki"},
+    {Dane::Stawka4, "txtStawka4", "Stawka 4", "fraStawki"},
+    {Dane::ProgI, "txtProgI", "Progi (2561.20)", "fraStawki"},
+    {Dane::ProgII, "txtProgII", "Próg II", "fraStawki"},
+    {Dane::ProgIII, "txtProgIII", "Próg III", "fraStawki"},
+    {Dane::ProgIV, "txtProgIV", "Próg IV", "fraStawki"},
+    {Dane::KwotaUlgi, "txtKwotaUlgi", "Kwota ulgi podatkowej", "fraStawki"},
+    {Dane::KosztyUzyskania, "txtKosztyUzyskania", "Koszty uzyskania normalne", "fraStawki"},
+    {Dane::Ubrent, "txtUbrent", "Stawka Rentowa", "fraZUS"},
+    {Dane::sklRentPrd, "txtsklRentPrd", "Stawka Rentowa pracodawcy", "fraZUS"},
+    {Dane::Ubemer, "txtUbemer", "Stawka Emerytalna", "fraZUS"},
+    {Dane::UbChor, "txtUbChor", "Stawka Chorobowa", "fraZUS"},
+    {Dane::UbWypad, "txtUbWypad", "Stawka Wypadkowa", "fraZUS"},
+    {Dane::Kasach, "txtKasach", "Stawka Zdrowotna Kasa razem  (np.9)", "fraZUS"},
+    {Dane::FuPr, "txtFuPr", "Stawka  na Fundusz Pracy", "fraZUS"},
+    {Dane::FGSP, "txtFGSP", "Stawka na Fundusz Gwar.Św.Pr.", "fraZUS"},
+    {Dane::StaFEP, "txtStaFEP", "Stawka na FEP", "fraZUS"},
+    {Dane::DniPracy, "txtDniPracy", "Ilość dni pracy w mies.", "fraInne"},
+    {Dane::ZR, "txtZR", "Kwota zasilku rodzinego  na 1 os.", "fraInne"},
+    {Dane::Solid, "txtSolid", "Solidarność", "fraInne"},
+    {Dane::SklZWZ, "txtSklZWZ", "Związek Zawodowy", "fraInne"},
+    {Dane::ZPielegnacyjny, "txtZPielegnacyjny", "Kwota zasiłku pielęgnacyjnego", "fraInne"},
+    {Dane::SklKZP, "txtSklKZP", "Kwota(wsk) potrąceń na KZP", "fraInne"},
+    {Dane::SklPZU, "txtSklPZU", "Składka na PZU", "fraInne"},
+    {Dane::MInBRUTTO, "txtMInBRUTTO", "Najniższe wynagrodzenie brutto", "fraInne"},
+    {Dane::Trzynastka, "txtTrzynastka", "Wskaźnik trzynastki np. 8.5", "fraInne"},
+    {Dane::KwotaGRE, "txtKwotaGRE", "Graniczna kwota do składek Emerytanej i Rentowej.", "fraZUS"},
+    {Dane::PRKu, "txtPRKu", "Koszty uzyskania zwiekszone", "fraStawki"},
+    {Dane::stZDI, "txtstZDI", "Stawka Zdrowotna Indywidualna", "fraZUS"},
     {Dane::KwPodstZDRwlasciciela, "txtKwPodstZDRwlasciciela", "Kwota podstawy zdrowotnej samodzielnie prow.dział.gospod",
-     "fraInne", true},
+     "fraInne"},
     {Dane::KwPodstZUSswiadczSoc, "TxtKwPodstZUSswiadczSoc", "Kwota podstawy składek ZUS dla świadczeń socjalnych",
-     "fraInne", true},
+     "fraInne"},
     {Dane::PodstawaDoKZP, "txtPodstawaDoKZP",
      "Podstawa do skladek KZP np: brutto lub zasadnicza, mbrutto (-chorobowe)   funkcyjny(zasadnicza +funkcyjny)",
-     "fraInne", false},
+     "fraInne", -1, 12},
 };
 
 }  // namespace
 
 PodatkiScreen::PodatkiScreen(core::Dialogs& ui, core::Session& session)
-    : Form(ui, "frmPodatki", "Instalacja - Podatki , Stawki ZUS , Wskazniki", core::ReportWords::Linni), s(session) {
+    : Form(ui, "frmPodatki", "Instalacja - Podatki , Stawki ZUS , Wskazniki", core::ReportWords::Linni),
+      s(session),
+      boxes(*this, kBoxes) {
     Label18.at(0, 0, 3);
     fraStawki.at(1, 0);
     fraZUS.at(1, 1);
     fraInne.at(1, 2);
-    int rows[3] = {0, 0, 0};
-    for (const Box& b : kBoxes) {
-        auto c = std::make_unique<core::Control>(this, b.control, Kind::TextBox);
-        std::string frame = b.frame;
-        int col = frame == "fraStawki" ? 0 : frame == "fraZUS" ? 1 : 2;
-        c->in(frame).at(rows[col]++, 0).label(b.label).width(b.number ? 10 : 12);
-        boxes.push_back(std::move(c));
-    }
-    Label36.in("fraZUS").at(rows[1]++, 0).label("Kwota składki zdrowotnej indywidualnej");
+    Label36.in("fraZUS").label("Kwota składki zdrowotnej indywidualnej");
     Label34.at(2, 0, 3);
     cmdZapisz_.at(3, 0);
     CmdZmianaKosztow.at(3, 1);
@@ -90,16 +76,6 @@ PodatkiScreen::PodatkiScreen(core::Dialogs& ui, core::Session& session)
     cmdKoniec_.at(3, 2);
     cmdZapisz_.Click = [this] { cmdZapisz(); };
     cmdKoniec_.Click = [this] { cmdKoniec(); };
-}
-
-core::Control& PodatkiScreen::txt(int field) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i)
-        if (kBoxes[i].field == field) return *boxes[i];
-    throw core::Error(core::err::SubscriptOutOfRange, "frmPodatki", "pole bez okna tekstowego");
-}
-
-void PodatkiScreen::fill(const core::Record& r) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i) boxes[i]->Text = r.s(kBoxes[i].field);
 }
 
 void PodatkiScreen::refreshLabel36() {
@@ -128,32 +104,32 @@ void PodatkiScreen::Load() {
     guarded([&] {
         bool found = false;
         core::Record r = Dane::readYear(file, year, &found);
-        if (found) fill(r);
+        if (found) boxes.fill(r);
         refreshLabel36();
     });
 }
 
 bool PodatkiScreen::checkNumbers() {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-        std::string t = core::Trim(core::KropkaZamiastPrzecinka(std::string(boxes[i]->Text)));
-        if (!kBoxes[i].number || t.empty() || core::isNumeric(t)) continue;
-        ui.msgBox("W polu \"" + std::string(kBoxes[i].label) + "\" wpisano \"" + boxes[i]->Text +
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        std::string t = core::Trim(core::KropkaZamiastPrzecinka(std::string(boxes.box(i).Text)));
+        if (boxes.def(i).field == Dane::PodstawaDoKZP || t.empty() || core::isNumeric(t)) continue;
+        ui.msgBox("W polu \"" + std::string(boxes.def(i).label) + "\" wpisano \"" + boxes.box(i).Text +
                       "\" - to nie jest liczba. Popraw wartość; zmian nie zapisano.",
                   Buttons::OK, Icon::Exclamation, "Błędna wartość");
-        SetFocus(*boxes[i]);
+        SetFocus(boxes.box(i));
         return false;
     }
     return true;
 }
 
 void PodatkiScreen::take(core::Record& r) {
-    for (std::size_t i = 0; i < std::size(kBoxes); ++i) {
-        core::KropkaZamiastPrzecinka(boxes[i]->Text);
-        std::string t = boxes[i]->Text;
-        if (r.schema().fields[kBoxes[i].field - 1].type == core::FieldType::Float)
-            r.set(kBoxes[i].field, static_cast<float>(core::toDoubleOrZero(t, kBoxes[i].control)));
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const int field = boxes.def(i).field;
+        std::string t = core::KropkaZamiastPrzecinka(boxes.box(i).Text);
+        if (r.schema().fields[field - 1].type == core::FieldType::Float)
+            r.set(field, static_cast<float>(core::toDoubleOrZero(t, boxes.def(i).control)));
         else
-            r.set(kBoxes[i].field, t);
+            r.set(field, t);
     }
     r.set(Dane::Rok, s.rok());
 }

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/fieldboxes.h"
 #include "core/form.h"
 #include "core/session.h"
 
@@ -16,7 +17,7 @@ public:
     void cmdKoniec() { Unload(); }
 
     // The text box of a field of Dane.dta.
-    core::Control& txt(int field);
+    core::Control& txt(int field) { return boxes[field]; }
 
     core::Session& s;
     core::Control Label18{this, "Label18", core::Kind::Label};
@@ -25,14 +26,13 @@ public:
     core::Control fraStawki{this, "fraStawki", core::Kind::Frame, "Podatek"};
     core::Control fraZUS{this, "fraZUS", core::Kind::Frame, "ZUS i fundusze"};
     core::Control fraInne{this, "fraInne", core::Kind::Frame, "Kwoty i wskaźniki"};
-    std::vector<std::unique_ptr<core::Control>> boxes;
+    core::FieldBoxes boxes;
     core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz zmiany"};
     core::Control CmdZmianaKosztow{this, "CmdZmianaKosztow", core::Kind::CommandButton,
                                    "Zmiana kosztów uzyskania i ulgi pod w zbiorach"};
     core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
-    void fill(const core::Record& r);
     void take(core::Record& r);
     void refreshLabel36();
     bool checkNumbers();

@@ -1,0 +1,269 @@
+#include "paycalc/kartoteka.h"
+
+#include <optional>
+
+#include "core/numbers.h"
+#include "core/paths.h"
+#include "core/text.h"
+#include "paycalc/dodatkowe_record.h"
+#include "paycalc/karta_record.h"
+#include "payinputs/pay_record.h"
+#include "personnel/person_record.h"
+#include "reference/rates.h"
+
+namespace fs = std::filesystem;
+using core::Record;
+namespace Pay = payinputs::Pay;
+namespace Osoba = personnel::Osoba;
+
+namespace paycalc {
+
+namespace {
+
+// An item of the pay record or of the result block put into a ledger field by the field's type:
+// a variant keeps the item as it is, a text is quoted, a number is read as a number (Error 13
+// for a text that is none).
+void przepisz(Record& r, int n, const core::Item& it) {
+    switch (r.schema().fields[n - 1].type) {
+    case core::FieldType::Variant: r.setItem(n, it); break;
+    case core::FieldType::String:
+    case core::FieldType::Line: r.set(n, it.text); break;
+    case core::FieldType::Blank: break;
+    default: r.set(n, core::toDoubleOrZero(it.text, "kartoteka, pole " + std::to_string(n) + " " + r.fieldName(n)));
+    }
+}
+
+const Record& pustyRekordPlacowy() {
+    static const Record r(Pay::schema());
+    return r;
+}
+
+}  // namespace
+
+Record rekordKarty(const core::Session& s, const Record& o) {
+    const core::WynikMiesiaca& w = s.wynik;
+    const core::Stawki& st = s.stawki;
+    const Record& P = w.placa.valid() ? w.placa : pustyRekordPlacowy();
+    Record k(Karta::schema());
+    using namespace Karta;
+
+    k.set(Poczatek, "<Poczatek>");
+    k.set(Nazwisko, core::RTrim(s.NazwiskoOsoby));
+    k.set(Imie, core::RTrim(s.ImieOsoby));
+    k.set(Klucz, s.KluczOsoby);
+    k.set(KodUbezpieczenia, core::RTrim(s.KodUbezpieczeniaOsoby));
+
+    // The elements of the month.
+    k.set(Zasadnicza, w.wZasadnicza);
+    k.set(Funkcyjny, w.wFunkcyjny);
+    k.set(Stazowy, w.wStazowy);
+    k.set(Premia, w.wPremia);
+    k.set(Specjalny, w.wSpecjalny);
+    k.set(Inny, w.wInny);
+    k.set(Motywacyjny, w.wMotywacyjny);
+    k.set(Wiejski, w.wWiejski);
+    k.set(Specjalistyczny, w.wSpecjalistyczny);
+    k.set(Wychowawczy, w.wWychowawczy);
+    k.set(Trudnosciowy, w.wTrudnosciowy);
+    k.set(Ekwiwalent, w.wEkwiwalent);
+    k.set(Nocny, w.wNocny);
+    k.set(Wyrownania, w.wWyrownania);
+    k.set(Szkodliwy, w.wSzkodliwy);
+    k.set(StawkaZastosowana, w.wStawkaPodatku);
+    k.set(NaROR, w.wNaROR);
+    k.set(KosztyUzyskania, w.wKoszty);
+    k.set(KwotaUlgi, P.f(Pay::KwotaUlgi));
+    k.set(Mieszkaniowy, w.wMieszkaniowy);
+    k.set(UlgaInwestycyjna, P.f(Pay::UlgaInwestycyjna));
+    k.set(StawkaPodatku, P.f(Pay::ZastosStaPOD));
+    k.set(NumerKonta, P.s(Pay::NumerKontaROR));
+
+    // Deductions.
+    k.set(ZFMRata, w.wRataZFM);
+    k.set(KZPRata, w.wRataKZP);
+    k.set(KZPSkladka, w.wSkladkaKZP);
+    k.set(ZasilkiDoROR, w.wZasilkiNaROR);
+    k.set(PotraceniaInne, w.wPotraceniaInne);
+    k.set(ZwiazekZawodowy, w.wZwiazek);
+    k.set(Solidarnosc, w.wSolidarnosc);
+    k.set(PZU, w.wPZU);
+    k.set(Potracenie2, w.wPotracenie2);
+    k.set(Potracenie3, w.wPotraceniaPoZasilkach);
+    k.set(Potracenie1, w.wPotracenie1);
+    k.set(Dokument, P.s(Pay::Dokument));
+    k.set(Obywatelstwo, personnel::obywatelstwo(o.s(Osoba::Obywatelstwo)));
+
+    // The benefits and the sick lines as the pay record had them, the amounts of the lines.
+    for (int i = 0; i < 6; ++i) przepisz(k, ZasilekPielegnacyjny + i, w.wZasilek[static_cast<std::size_t>(i)]);
+    for (int n = 0; n < 4; ++n) {
+        const core::LiniaChorobowa& l = w.wLinie[static_cast<std::size_t>(n)];
+        const int b = SredniaCH1 + 6 * n;
+        przepisz(k, b, l.SredniaCH);
+        przepisz(k, b + 1, l.Liczbadni);
+        przepisz(k, b + 2, l.okresOd);
+        przepisz(k, b + 3, l.okresDo);
+        przepisz(k, b + 4, l.KodPrzerwy);
+        przepisz(k, b + 5, l.ChPr);
+        przepisz(k, KwotaLinii1 + n, P.item(Pay::KwotaCh1 + n));
+    }
+    k.set(Grupa, o.s(Osoba::Grupa));
+    k.set(Podatek, w.wPodatekNaliczony);
+
+    // Contributions.
+    k.set(SkladkaWypadkowa, w.wWypadkowa);
+    k.set(SkladkaRentowa, w.wRentowa);
+    k.set(SkladkaEmerytalna, w.wEmerytalna);
+
+    // Leave, address, birth.
+    k.set(DniUrlopu, static_cast<long>(w.DniUrlopu));
+    k.set(StawkaUrlopowa, w.StawkaUrlopowa);
+    k.set(Kod, o.s(Osoba::Kod));
+    k.set(Miejscowosc, o.s(Osoba::Miejscowosc));
+    k.set(Ulica, o.s(Osoba::Ulica));
+    k.set(NrDomu, o.s(Osoba::NrDomu));
+    k.set(Lokal, o.s(Osoba::Lokal));
+    k.set(DataUrodzenia, o.s(Osoba::DataUrodzenia));
+    k.set(StawkaZdrowotna30, static_cast<float>(st.stZDI));
+    przepisz(k, SredniaChorobowa, w.wSredniaChorobowa);
+
+    // Tax, gross and the bases.
+    k.set(SkladkaChorobowa, w.wChorobowa);
+    k.set(SkladkaZdrowotnaPozostala, w.wZdrowotnaIndywidualna);
+    k.set(DataListy, s.DataListy);
+    k.set(PodatekNetto, w.wZaliczka);
+    k.set(Brutto, w.wBrutto);
+    k.set(PodstawaPodatku, w.wPodstawaPodatku);
+    k.set(PodstawaZdrowotna, w.wPodstawaZdrowotnej);
+    k.set(StawkaZdrowotna15, static_cast<float>(st.Kasach));
+    k.set(PodstawaZUS, w.wPodstawaZUS);
+    k.set(StopaEmerytalna, st.emerytalna);
+    k.set(StopaRentowa, st.rentowaPracownik);
+    k.set(StopaChorobowa, st.chorobowa);
+    k.set(StopaWypadkowa, st.wypadkowa);
+    k.set(SkladkaZdrowotnaOdliczana, w.wZdrowotnaOdliczana);
+    k.set(Etat, o.s(Osoba::Etat));
+    k.set(ChoroboweZUS, w.wZasilki);
+    k.set(DoWyplaty, w.wDoWyplaty);
+    k.set(NaLiscie, o.i(Osoba::Status));
+    k.set(ChorobowePracodawca, w.wChorobowePlatne);
+
+    // The switches of the pay record.
+    k.set(CheckEmerytalna, P.i(Pay::Emerytalna));
+    k.set(CheckRentowa, P.i(Pay::Rentowa));
+    k.set(CheckChorobowa, P.i(Pay::Chorobowa));
+    k.set(CheckWypadkowa, P.i(Pay::Wypadkowa));
+    k.set(CheckZdrowotna, P.i(Pay::Zdrowotna));
+
+    // Funds, identity, the employer's rent.
+    k.set(WskaznikFP, o.s(Osoba::WskaznikFP));
+    k.set(PodstawaFP, w.wPodstawaFP);
+    k.set(FGSP, o.s(Osoba::FGSP));
+    k.set(PodstawaFGSP, w.wPodstawaFGSP);
+    k.set(DowodOsobisty, o.s(Osoba::DowodOsobisty));
+    k.set(UrzadSkarbowy, o.s(Osoba::UrzadSkarbowy));
+    k.set(StopaRentowaPracodawcy, st.rentowaPracodawca);
+    k.set(SkladkaRentowaPracodawcy, w.wRentowaPracodawcy);
+
+    // The two sick sums of the calculation before their rounding, the payment and the relief.
+    k.set(DniChorobyZakladu, static_cast<float>(w.sumaChorobowePlatne));
+    k.set(DniChorobyZUS, static_cast<float>(w.sumaZasilki));
+    k.set(Niedobor, w.wNiedobor);
+    k.set(ZasilkiDoKasy, w.wZasilkiDoKasy);
+    k.set(PodatekOdZasilkow, w.wPodatekZasilki);
+    k.set(UlgaNiewykorzystana, w.wUlgaNiewykorzystana);
+    k.set(UlgaZastosowana, w.wUlgaZastosowana);
+    k.set(Urlopowe, w.wUrlopowe);
+    k.set(ChoroboweWypadkowe, w.wZasilki311);
+    k.set(Koniec, "<Koniec>");
+    return k;
+}
+
+int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep) {
+    // The rates of the year and the month stamp of the list date, then the list's files once.
+    reference::loadRates(s);
+    const ZbioryListy z = wczytajZbiory(s);
+    const std::vector<Record>& osoby = z.osobowe.rekordy();
+    const int ile = static_cast<int>(osoby.size());
+
+    core::SeqWriter out;
+    int liczba = 0;
+    postep(0, ile, 0);
+    for (int i = 0; i < ile; ++i) {
+        Record o = osoby[static_cast<std::size_t>(i)];
+        o.set(Osoba::Obywatelstwo, personnel::obywatelstwo(o.s(Osoba::Obywatelstwo)));
+        const std::string klucz = personnel::kluczOsoby(o);
+        if (o.i(Osoba::Status) == 1) {
+            s.KluczOsoby = klucz;
+            s.NazwiskoOsoby = core::RTrim(o.s(Osoba::Nazwisko));
+            s.ImieOsoby = core::RTrim(o.s(Osoba::Imie));
+            s.KodUbezpieczeniaOsoby = core::RTrim(o.s(Osoba::KodUbezpieczenia));
+            s.Osoba = core::EkranOsoby{};
+            ++liczba;
+            // The personnel values the calculation used (the birth date made from the PESEL
+            // when it was empty); without a pay record the calculation ends before them.
+            const bool policzono = modWyliczeniePlacy(s, ui, z) == Wynik::Policzono;
+            core::writeRecord(out, rekordKarty(s, policzono && s.wynik.osoba.valid() ? s.wynik.osoba : o));
+        }
+        postep(0, ile, i + 1);
+    }
+    // A personnel file that broke off: the people before the fault are done, the fault ends
+    // the command.
+    if (z.osobowe.blad()) throw *z.osobowe.blad();
+
+    core::ensureFolder(s.payerFolder(), {"karta"});
+    core::commitFile(Karta::path(s), out, "tym" + s.NazwaZbioru + ".dta");
+    s.LiczbaOsob = liczba;
+    return liczba;
+}
+
+bool cmdKartoteka(core::Session& s, core::Dialogs& ui, const Postep& postep) {
+    if (ui.msgBox("Czy chcesz wykonać kartotekę z aktualnej na ten miesiac listy płac ", core::Buttons::YesNo,
+                  core::Icon::Information, "Wykonanie kartoteki z listy plac za " + s.DataListy) != core::Answer::Yes)
+        return false;
+    wykonajKartoteke(s, ui, postep);
+    ui.msgBox("Wykonano kartotekę za " + s.RRmm(), core::Buttons::OK, core::Icon::Information,
+              "Kartoteka z listy plac " + s.NazwaZbioru);
+    return true;
+}
+
+namespace {
+
+// The first record of a file whose field `pole` holds `klucz`, read from the start and no
+// further; nothing when the file is missing or holds no such record.
+std::optional<Record> pierwszy(const fs::path& file, const core::Schema& schema, int pole, const std::string& klucz) {
+    if (!core::fileExists(file)) return std::nullopt;
+    core::SeqReader in(file);
+    while (!in.eof()) {
+        Record r = core::readRecord(in, schema);
+        if (r.s(pole) == klucz) return r;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+float podstawaRoczna(const core::Session& s, const std::string& klucz, const std::string& rokDoPodstawy) {
+    const std::string rok = core::Trim(rokDoPodstawy).empty() ? core::Right(s.DataListy, 2)
+                                                              : core::Right(core::Trim(rokDoPodstawy), 2);
+    const std::string& lista = s.NazwaZbioru;
+    double suma = 0;
+    for (int m = 1; m <= 12; ++m) {
+        const std::string RRmm = rok + (m < 10 ? "0" : "") + std::to_string(m);
+        if (auto r = pierwszy(Karta::path(s, lista, RRmm), Karta::schema(), Karta::Klucz, klucz))
+            suma += r->f(Karta::PodstawaZUS);
+        using Dodatkowy::Rodzaj;
+        const core::Schema& d = Dodatkowy::schema();
+        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::God, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+            suma += r->f(Dodatkowy::KwotaBrutto);
+        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::Dod, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+            suma += static_cast<double>(r->f(Dodatkowy::Kw1)) + r->f(Dodatkowy::Kw2) + r->f(Dodatkowy::Kw3) +
+                    r->f(Dodatkowy::Kw4) + r->f(Dodatkowy::Kw5);
+        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::SwU, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+            suma += r->f(Dodatkowy::KwotaBrutto);
+        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::Jub, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+            suma += r->f(Dodatkowy::KwotaBrutto);
+    }
+    return core::Round2(suma);
+}
+
+}  // namespace paycalc

@@ -1,0 +1,120 @@
+// frmlista ("Lista pracowników"): the operator's screen of one pay list. It shows the people of
+// the list, lets the operator pick one, add or delete people and open their records, carries on
+// five tabs the supplementary files of the month, and starts the month's ledger, the printing,
+// the month closing and the calibration of the pay file.
+#pragma once
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/form.h"
+#include "core/session.h"
+#include "paycalc/dodatkowe_record.h"
+#include "paycalc/postep.h"
+
+namespace paycalc {
+
+// The type text of a list by its group letter.
+std::string rodzajListy(const std::string& grupa);
+
+// The person of a line of lstlista, cut by its columns.
+struct WybranaOsoba {
+    std::string Nazwisko, Imie, Klucz, KodUbezpieczenia, Numer;
+};
+WybranaOsoba osobaZWiersza(const std::string& line);
+
+class ListaScreen : public core::Form {
+public:
+    ListaScreen(core::Dialogs& ui, core::Session& s);
+    void Load() override;
+
+    void lstlista_Click();
+    void TabStrip1_Click();
+    void cmdDodajOsobe();
+    void cmdUsu();
+    void cmdWybrane();
+    void cmdSortujZbior();
+    void cmdKartoteka();
+    void cmdWyliczPodstawe();
+    void CmdZerowanie();
+    void CmdSol1();
+    // The printing commands open the screens of the printing by their names.
+    void drukuj(const std::string& ekran);
+    void koniecH() { Unload(); }
+
+    // The kind of the tab `tab` (1 to 5).
+    static Dodatkowy::Rodzaj rodzajZakladki(int tab);
+    // The frame of the tab and the control showing a field of the tab's file (or null).
+    core::Control& ramka(int tab);
+    core::Control* pole(int tab, int field);
+    // Whether a person of the list is chosen.
+    bool wybrana() const { return lstlista.ListIndex >= 0; }
+
+    static constexpr int kMaxOsob = 250;
+    // The lines of the list, as the table of at most kMaxOsob entries keeps them.
+    std::vector<std::string> Tablica;
+
+    core::Session& s;
+
+    core::Control lbDatalistyk{this, "lbDatalistyk", core::Kind::Label};
+    core::Control Label3{this, "Label3", core::Kind::Label};
+    core::Control lbStatus{this, "lbStatus", core::Kind::Label};
+    core::Control Lblista{this, "Lblista", core::Kind::Label,
+                          "Nr.   Nazwisko                                         Imie           "};
+    core::Control lstlista{this, "lstlista", core::Kind::ListBox};
+    core::Control fraPolecenia{this, "fraPolecenia", core::Kind::Frame, "Polecenia"};
+    core::Control cmdDodajOsobe_{this, "cmdDodajOsobe", core::Kind::CommandButton, "Dodaj &Osobę"};
+    core::Control cmdUsun_{this, "cmdUsuń", core::Kind::CommandButton, "&Usuń osobę"};
+    core::Control cmdWybrane_{this, "cmdWybrane", core::Kind::CommandButton, "Pokaż &Wybrane"};
+    core::Control cmdSortujZbior_{this, "cmdSortujZbior", core::Kind::CommandButton, "&Sortuj zbiór"};
+    core::Control cmdKartoteka_{this, "cmdKartoteka", core::Kind::CommandButton, "Utwórz kar&Totekę"};
+    core::Control cmdDrukListy_{this, "cmdDrukListy", core::Kind::CommandButton, "&Druk listy płac"};
+    core::Control cmdPodglad_{this, "cmdPodglad", core::Kind::CommandButton, "&Podglad listy"};
+    core::Control CmdPaski_{this, "CmdPaski", core::Kind::CommandButton, "p&Aski"};
+    core::Control CmdDruZasilkow_{this, "CmdDruZasilkow", core::Kind::CommandButton, "Druk&ChrobZUS"};
+    core::Control CmdZerowanie_{this, "CmdZerowanie", core::Kind::CommandButton, "&Zerowanie"};
+    core::Control CmdSol1_{this, "CmdSol1", core::Kind::CommandButton, "Kalibracja &Bazy(np Po zmianie nazwiska)"};
+    core::Control koniecH_{this, "koniecH", core::Kind::CommandButton, "  &Koniec"};
+    core::Control TabStrip1{this, "TabStrip1", core::Kind::TabStrip};
+    core::Control Frame1{this, "Frame1", core::Kind::Frame, "Godziny Nadliczbowe"};
+    core::Control Frame2{this, "Frame2", core::Kind::Frame, "Dodatkowe"};
+    core::Control Frame3{this, "Frame3", core::Kind::Frame, " Trzynastka"};
+    core::Control Frame4{this, "Frame4", core::Kind::Frame, "Jubileusze"};
+    core::Control frame5{this, "frame5", core::Kind::Frame, "Świadczenia Urlopowe"};
+    core::Control lbNazwiskoImie1{this, "lbNazwiskoImie1", core::Kind::Label};
+    core::Control lbNazwiskoImie2{this, "lbNazwiskoImie2", core::Kind::Label};
+    core::Control lbNazwiskoImie3{this, "lbNazwiskoImie3", core::Kind::Label};
+    core::Control lbNazwiskoImie4{this, "lbNazwiskoImie4", core::Kind::Label};
+    core::Control lbNazwiskoImie5{this, "lbNazwiskoImie5", core::Kind::Label};
+    // The thirteenth pay's tab: the year of the base and the base of the year.
+    core::Control txtRokDoPodstawy{this, "txtRokDoPodstawy", core::Kind::TextBox};
+    core::Control cmdWyliczPodstawe_{this, "cmdWyliczPodstawe", core::Kind::CommandButton, "Wylicz &podstawę"};
+    core::Control lbUwagaJ{this, "lbUwagaJ", core::Kind::Label,
+                           "Nagroda Jubileuszowa  ( tylko podatek , nie oskładkowane)"};
+    core::Control ProgressBar1{this, "ProgressBar1", core::Kind::ProgressBar};
+    core::Control lbUwagi{this, "lbUwagi", core::Kind::Label};
+
+private:
+    struct PoleRamki {
+        core::Control* c;
+        int pole;
+    };
+    void zbudujRamki();
+    void pokazRamke(int tab);
+    // Fills the tab's frame with the chosen person's record of the tab's file, or clears it.
+    void pokazRekord(int tab);
+    void wyczysc(int tab);
+    // Creates the tab's file of the month from the pay and personnel records of the list.
+    void zalozZbior(Dodatkowy::Rodzaj r);
+    // The progress bar and the status label for a long command; the command buttons are off
+    // while it runs.
+    Postep postep();
+    void polecenia(bool wlaczone);
+    void ustawPrzyciski();
+
+    std::array<std::vector<PoleRamki>, 5> pola_;
+    std::vector<std::unique_ptr<core::Control>> kontrolki_;
+};
+
+}  // namespace paycalc

@@ -1,0 +1,299 @@
+// The monthly ledger of a list: the record of a person line by line, the people taken and
+// skipped, the repeat of the command, an empty list, and the yearly contribution base.
+#include <gtest/gtest.h>
+
+#include "core/numbers.h"
+#include "demo_lista.h"
+#include "paycalc/dodatkowe_record.h"
+#include "paycalc/karta_record.h"
+#include "paycalc/kartoteka.h"
+
+using namespace paycalc;
+using paycalc_tests::DemoLista;
+using testing_support::readLines;
+namespace Osoba = personnel::Osoba;
+namespace Pay = payinputs::Pay;
+
+namespace {
+
+// DĄBROWSKI MAREK of the demo list on the list of 31-01-2021, worked out by hand from the
+// rates of 2021 (pension 19.52 / 2, disability 1.5 and 6.5, sickness 2.45, accident 1.67,
+// health 9 and 1.25, tax 17 %, relief 43.76):
+//   base 4600, seniority from 01-04-2012: 8 full years, 8 % = 368, bonus 0.2 x 4600 = 920,
+//   gross 5888 = contribution base; pension 574.6688 -> 574.67, disability 88.32, sickness
+//   144.256 -> 144.26, accident 98.3296 -> 98.33, employer's disability 382.72;
+//   employee contributions 807.25; tax base 5888 - 250 - 807.25 = 4830.75 -> 4831;
+//   health base 5080.75, health 9 % 457.27, of it 1.25 % = 63.51 borne, 393.76 deducted;
+//   tax 0.17 x 4831 = 821.27 - 43.76 = 777.51, - 393.76 = 383.75 -> 384;
+//   deductions 63.51 + 807.25 + 384 + 393.76 = 1648.52; net and payment 4239.48, no account.
+const std::vector<std::string> kDabrowski = {
+    "\"<Poczatek>\"", "\"DĄBROWSKI\"", "\"MAREK\"", "\"80120356757\"", "\"011000\"",
+    "4600", "0", "368", "920", "0", "0", "0", "0", "0", "0",                // 6-15
+    "0", "0", "0", "0", "0", "0.17",                                       // 16-21
+    "", "", "", "", "",                                                    // 22-26 blank
+    "0", "", "", "250", "43.76", "0", "", "0", "0.17", "\"\"",             // 27-36
+    "", "0", "", "", "0", "0", "0", "0", "0", "0",                         // 37-46
+    "0", "0", "0", "0", "\"\"", "\"POLSKIE\"",                             // 47-52
+    "0", "0", "0", "0", "0", "0",                                          // 53-58 benefits
+    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 59-64 sick line 1
+    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 65-70
+    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 71-76
+    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 77-82
+    "0", "0", "0", "0",                                                    // 83-86
+    "\"a\"", "", "777.51", "", "", "", "", "", "98.33",                    // 87-95
+    "", "", "", "", "", "88.32",                                           // 96-101
+    "", "", "", "", "", "574.67",                                          // 102-107
+    "", "", "", "", "", "", "", "",                                        // 108-115
+    "0", "0", "\"32-440\"", "\"Sułkowice\"", "\"Bałtycka\"", "\"5\"", "\"\"",  // 116-122
+    "", "", "", "\"03-12-1980\"", "1.25", "0", "", "",                     // 123-130
+    "144.26", "63.51", "\"31-01-2021\"", "384", "5888", "4831", "",        // 131-137
+    "5080.75", "9", "5888", "0.0976", "0.015", "0.0245", "0.0167", "",     // 138-145
+    "393.76", "\"  1  1\"", "0", "4239.48", "1", "0",                      // 146-151
+    "1", "1", "1", "1", "1", "",                                           // 152-157
+    "\"\"", "5888", "\"\"", "5888", "\"AKS 330917\"", "", "",              // 158-164
+    "\"Urząd Skarbowy Kraków-Podgórze\"", "0.065", "382.72",               // 165-167
+    "0", "0", "0", "0", "0", "0", "43.76", "0", "0", "\"<Koniec>\"",       // 168-177
+};
+
+// The lines of the ledger record whose key (line 4) is `klucz`.
+std::vector<std::string> rekord(const std::vector<std::string>& lines, const std::string& klucz) {
+    for (std::size_t i = 0; i + Karta::Count <= lines.size(); i += Karta::Count)
+        if (lines[i + 3] == "\"" + klucz + "\"")
+            return std::vector<std::string>(lines.begin() + static_cast<long>(i),
+                                            lines.begin() + static_cast<long>(i + Karta::Count));
+    return {};
+}
+
+std::vector<std::string> klucze(const std::vector<core::Record>& karta) {
+    std::vector<std::string> k;
+    for (const auto& r : karta) k.push_back(r.s(Karta::Klucz));
+    return k;
+}
+
+}  // namespace
+
+TEST(Kartoteka, RecordOfAPersonLineByLine) {
+    DemoLista d;
+    ASSERT_EQ(kDabrowski.size(), static_cast<std::size_t>(Karta::Count));
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    const auto path = d.payer() / "Karta" / "a2101.dta";
+    ASSERT_TRUE(core::fileExists(path));
+    const auto lines = readLines(path);
+    ASSERT_EQ(lines.size(), 7u * Karta::Count);
+    const auto r = rekord(lines, "80120356757");
+    ASSERT_EQ(r.size(), kDabrowski.size());
+    for (std::size_t i = 0; i < r.size(); ++i) EXPECT_EQ(r[i], kDabrowski[i]) << "pole " << i + 1;
+    // CR LF ends every line.
+    const std::string bytes = testing_support::readBytes(path);
+    EXPECT_EQ(bytes.substr(0, 14), "\"<Poczatek>\"\r\n");
+    EXPECT_EQ(d.s.LiczbaOsob, 7);
+    ASSERT_EQ(d.ui.lines().size(), 2u);
+    EXPECT_EQ(d.ui.boxes[0].title, "Wykonanie kartoteki z listy plac za 31-01-2021");
+    EXPECT_EQ(d.ui.boxes[0].text, "Czy chcesz wykonać kartotekę z aktualnej na ten miesiac listy płac ");
+    EXPECT_EQ(d.ui.boxes[0].buttons, core::Buttons::YesNo);
+    EXPECT_EQ(d.ui.boxes[0].icon, core::Icon::Information);
+    EXPECT_EQ(d.ui.lines()[1], "[Kartoteka z listy plac a] Wykonano kartotekę za 2101");
+}
+
+TEST(Kartoteka, BlankPositionsStayBlankWhateverThePayRecordHolds) {
+    DemoLista d;
+    // Options, dates and loans of the pay record that the ledger keeps as blank positions.
+    auto place = d.place();
+    auto* p = DemoLista::znajdz(place, "80120356757", [](const core::Record& r) { return payinputs::kluczOsoby(r); });
+    ASSERT_NE(p, nullptr);
+    p->set(Pay::DodatekStazowy, "");
+    p->set(Pay::RozliczenieWspolne, "");
+    p->set(Pay::SamotnaMatka, "1");
+    p->set(Pay::WskTabeli, "M1");
+    p->set(Pay::RorGodziny, "1");
+    p->set(Pay::RorDodatki, "1");
+    p->set(Pay::ZFMPozyczka, 1200.0);
+    p->set(Pay::KZPWklady, 800.0);
+    p->set(Pay::KZPpozyczka, 500.0);
+    p->set(Pay::DniChorobyOd01, 4.0);
+    p->set(Pay::BruttoOd01, 0.0);
+    p->set(Pay::EFPomostowy, 1L);
+    for (int n = Pay::BZP3dni; n <= Pay::Rezerwa106; ++n) p->set(n, n == Pay::BZP3dni ? "0" : "x");
+    d.zapiszPlace(place);
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    const auto r = rekord(readLines(d.payer() / "Karta" / "a2101.dta"), "80120356757");
+    ASSERT_EQ(r.size(), static_cast<std::size_t>(Karta::Count));
+    for (int n : {22, 23, 24, 25, 26, 28, 29, 33, 37, 39, 40, 94, 100, 102, 103, 104, 105, 106, 108, 109, 110, 111, 112,
+                  113, 114, 115, 123, 124, 125, 129, 130, 137, 145, 157, 163, 164})
+        EXPECT_EQ(r[static_cast<std::size_t>(n - 1)], "") << "pole " << n;
+}
+
+TEST(Kartoteka, OnlyPeopleOnTheListAreWrittenAndCounted) {
+    DemoLista d;
+    auto osoby = d.osoby();
+    osoby[1].set(Osoba::Status, 2L);  // WIŚNIEWSKA: "Nie"
+    osoby[3].set(Osoba::Status, 0L);  // KAMIŃSKA
+    d.zapiszOsoby(osoby);
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    const auto karta = Karta::readAll(d.payer() / "Karta" / "a2101.dta");
+    // The rest in the order of the personnel file; the file is read past the people skipped.
+    EXPECT_EQ(klucze(karta), (std::vector<std::string>{"75031412317", "88110578938", "FP123456", "80120356757",
+                                                       "85031589069"}));
+    EXPECT_EQ(d.s.LiczbaOsob, 5);
+    for (const auto& r : karta) EXPECT_EQ(r.s(Karta::NaLiscie), "1");
+}
+
+TEST(Kartoteka, ForeignerIsKeyedByTheDocument) {
+    DemoLista d;
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    const auto karta = Karta::readAll(d.payer() / "Karta" / "a2101.dta");
+    ASSERT_EQ(karta.size(), 7u);
+    const core::Record& olena = karta[4];
+    EXPECT_EQ(olena.s(Karta::Nazwisko), "KOWALENKO");
+    EXPECT_EQ(olena.s(Karta::Klucz), "FP123456");
+    EXPECT_EQ(olena.s(Karta::Dokument), "FP123456");
+    EXPECT_EQ(olena.s(Karta::Obywatelstwo), "UKRAIŃSKIE");
+    // 3600 x 3/4 = 2700 for the post of three quarters.
+    EXPECT_EQ(olena.s(Karta::Zasadnicza), "2700");
+    // A citizenship stored as "0" is Polish: the PESEL is the key, "POLSKIE" is written.
+    EXPECT_EQ(karta[2].s(Karta::Klucz), "88110578938");
+    EXPECT_EQ(karta[2].s(Karta::Obywatelstwo), "POLSKIE");
+}
+
+TEST(Kartoteka, SecondRunReplacesTheMonth) {
+    DemoLista d;
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    auto place = d.place();
+    DemoLista::znajdz(place, "80120356757", [](const core::Record& r) { return payinputs::kluczOsoby(r); })
+        ->set(Pay::Zasadnicza, 5000.0f);
+    d.zapiszPlace(place);
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    const auto karta = Karta::readAll(d.payer() / "Karta" / "a2101.dta");
+    ASSERT_EQ(karta.size(), 7u);
+    // 5000, seniority 8 % = 400, bonus 1000.
+    EXPECT_EQ(karta[5].s(Karta::Zasadnicza), "5000");
+    EXPECT_EQ(karta[5].s(Karta::Brutto), "6400");
+    std::size_t files = 0;
+    for (const auto& e : std::filesystem::directory_iterator(d.payer() / "Karta"))
+        if (e.path().filename() != ".gitkeep") ++files;
+    EXPECT_EQ(files, 1u);
+}
+
+TEST(Kartoteka, AnswerNoChangesNothing) {
+    DemoLista d;
+    d.ui.answer(core::Answer::No);
+    d.s.LiczbaOsob = 42;
+    EXPECT_FALSE(cmdKartoteka(d.s, d.ui));
+    EXPECT_FALSE(core::fileExists(d.payer() / "Karta" / "a2101.dta"));
+    EXPECT_EQ(d.s.LiczbaOsob, 42);
+    EXPECT_EQ(d.ui.boxes.size(), 1u);
+}
+
+TEST(Kartoteka, EmptyListGivesAnEmptyFileAndTheBox) {
+    DemoLista d;
+    // First a list with people, then nobody eligible: the ledger is replaced by an empty one.
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    auto osoby = d.osoby();
+    for (auto& o : osoby) o.set(Osoba::Status, 2L);
+    d.zapiszOsoby(osoby);
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    EXPECT_EQ(testing_support::readBytes(d.payer() / "Karta" / "a2101.dta"), "");
+    EXPECT_EQ(d.s.LiczbaOsob, 0);
+    EXPECT_EQ(d.ui.last(), "[Kartoteka z listy plac a] Wykonano kartotekę za 2101");
+    // A personnel file without any record at all.
+    d.zapiszOsoby({});
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    EXPECT_EQ(testing_support::readBytes(d.payer() / "Karta" / "a2101.dta"), "");
+}
+
+TEST(Kartoteka, ErrorLeavesTheOldLedgerWhole) {
+    DemoLista d;
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    const std::string przed = testing_support::readBytes(d.payer() / "Karta" / "a2101.dta");
+    auto place = d.place();
+    place[3].setItem(Pay::Zasadnicza, core::Item::quoted("abc"));
+    d.zapiszPlace(place);
+    EXPECT_THROW(cmdKartoteka(d.s, d.ui), core::Error);
+    EXPECT_EQ(testing_support::readBytes(d.payer() / "Karta" / "a2101.dta"), przed);
+}
+
+TEST(PodstawaRoczna, SumsTheMonthsPresentAndLeavesTheThirteenthOut) {
+    DemoLista d;
+    const std::string klucz = "80120356757";
+    auto karta = [&](const std::string& key, float podstawa) {
+        core::Record r(Karta::schema());
+        r.set(Karta::Klucz, key);
+        r.set(Karta::PodstawaZUS, podstawa);
+        return r;
+    };
+    auto dodatkowy = [&](const std::string& key, std::initializer_list<std::pair<int, float>> pola) {
+        core::Record r(Dodatkowy::schema());
+        r.set(Dodatkowy::Klucz, key);
+        for (auto [n, v] : pola) r.set(n, v);
+        return r;
+    };
+    using Dodatkowy::Rodzaj;
+    // Ledgers of January and March 2021 (another person first, a second record of the
+    // person after the first is not counted), none for the other months.
+    core::writeAll(Karta::path(d.s, "a", "2101"), {karta("63072245629", 9999), karta(klucz, 5888), karta(klucz, 1)});
+    core::writeAll(Karta::path(d.s, "a", "2103"), {karta(klucz, 6000.5f)});
+    // A ledger of another year and of another list do not count.
+    core::writeAll(Karta::path(d.s, "a", "2001"), {karta(klucz, 777)});
+    core::writeAll(Karta::path(d.s, "p", "2102"), {karta(klucz, 777)});
+    // Overtime in March: field 6.
+    core::writeAll(Dodatkowy::path(d.s, Rodzaj::God, "a", "2103"), {dodatkowy(klucz, {{Dodatkowy::KwotaBrutto, 300.25f}})});
+    // Additions in February: fields 33 to 37 only, not the award and the equivalent.
+    core::writeAll(Dodatkowy::path(d.s, Rodzaj::Dod, "a", "2102"),
+                   {dodatkowy(klucz, {{Dodatkowy::Kw1, 100},
+                                      {Dodatkowy::Kw2, 20},
+                                      {Dodatkowy::Kw3, 3},
+                                      {Dodatkowy::Kw4, 0.5f},
+                                      {Dodatkowy::Kw5, 0.25f},
+                                      {Dodatkowy::Kw6, 1000},
+                                      {Dodatkowy::Kw7, 2000},
+                                      {Dodatkowy::KwotaBrutto, 5000}})});
+    // Holiday benefit and jubilee award in June: field 6.
+    core::writeAll(Dodatkowy::path(d.s, Rodzaj::SwU, "a", "2106"), {dodatkowy(klucz, {{Dodatkowy::KwotaBrutto, 1000}})});
+    core::writeAll(Dodatkowy::path(d.s, Rodzaj::Jub, "a", "2106"), {dodatkowy(klucz, {{Dodatkowy::KwotaBrutto, 2500}})});
+    // The thirteenth pay is left out.
+    core::writeAll(Dodatkowy::path(d.s, Rodzaj::Trz, "a", "2103"), {dodatkowy(klucz, {{Dodatkowy::KwotaBrutto, 4000}})});
+
+    // 5888 + 6000.5 + 300.25 + 123.75 + 1000 + 2500 = 15812.5
+    EXPECT_EQ(podstawaRoczna(d.s, klucz, ""), 15812.5f);
+    EXPECT_EQ(podstawaRoczna(d.s, klucz, "2021"), 15812.5f);
+    EXPECT_EQ(podstawaRoczna(d.s, klucz, "20"), 777.0f);
+    EXPECT_EQ(podstawaRoczna(d.s, klucz, "2019"), 0.0f);
+    EXPECT_EQ(podstawaRoczna(d.s, "63072245629", ""), 9999.0f);
+    EXPECT_EQ(podstawaRoczna(d.s, "00000000000", ""), 0.0f);
+}
+
+TEST(PodstawaRoczna, RoundsTheSumToGrosze) {
+    DemoLista d;
+    core::Record r(Karta::schema());
+    r.set(Karta::Klucz, "K");
+    r.set(Karta::PodstawaZUS, 0.125f);
+    core::writeAll(Karta::path(d.s, "a", "2101"), {r});
+    core::writeAll(Karta::path(d.s, "a", "2102"), {r});
+    core::writeAll(Karta::path(d.s, "a", "2103"), {r});
+    // 0.375 to two decimals, ties to even.
+    EXPECT_EQ(podstawaRoczna(d.s, "K", ""), core::Round2(0.375));
+    EXPECT_EQ(core::numText(podstawaRoczna(d.s, "K", "")), "0.38");
+}
+
+TEST(Dodatkowy, RecordIsOneLineAndReadsBack) {
+    testing_support::TempDir dir;
+    core::Record r(Dodatkowy::schema());
+    r.set(Dodatkowy::Nazwisko, "NOWAK");
+    r.set(Dodatkowy::Imie, "JAN");
+    r.set(Dodatkowy::Klucz, "75031412317");
+    r.set(Dodatkowy::KodUbezpieczenia, "011000");
+    r.set(Dodatkowy::Podstawa, 5200.0f);
+    r.set(Dodatkowy::StawkaPodatku, 0.17f);
+    r.set(Dodatkowy::OpcjaROR, "1");
+    r.set(Dodatkowy::DataListy, "31-01-2021");
+    r.set(Dodatkowy::Il4, 2L);
+    const auto file = dir / "aGod2101.dta";
+    Dodatkowy::writeAll(file, Dodatkowy::Rodzaj::God, {r, r});
+    const std::string line = "\"NOWAK\",\"JAN\",\"75031412317\",\"011000\",5200,,,,,0.17,,,,,\"1\",,,,,2,,,,,,,,,,,,"
+                             "\"31-01-2021\",,,,,,,,,,,,\r\n";
+    EXPECT_EQ(testing_support::readBytes(file), line + line);
+    const auto back = Dodatkowy::readAll(file);
+    ASSERT_EQ(back.size(), 2u);
+    for (int n = 1; n <= Dodatkowy::Count; ++n) EXPECT_EQ(back[0].item(n), r.item(n)) << n;
+    EXPECT_EQ(Dodatkowy::path(core::Session{}, Dodatkowy::Rodzaj::SwU, "a", "2101").filename(), "aSwU2101.dta");
+}
