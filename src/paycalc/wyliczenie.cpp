@@ -151,6 +151,7 @@ Wynik modWyliczeniePlacy(core::Session& s, core::Dialogs& ui, const ZbioryListy&
     // for those born after 1999).
     if (O.s(Osoba::DataUrodzenia).empty() && core::Len(O.s(Osoba::Pesel)) == 11)
         O.set(Osoba::DataUrodzenia, personnel::dataUrodzeniaZPesel("", O.s(Osoba::Pesel)));
+    // The group, the post, the birth date and the fund switches are the personnel record's.
     const std::string grupa = O.s(Osoba::Grupa);
     const std::string grupaM = core::LCase(grupa);
 
@@ -208,6 +209,8 @@ Wynik modWyliczeniePlacy(core::Session& s, core::Dialogs& ui, const ZbioryListy&
         const int b = kLinia[n];
         w.wLinie[n] = {P.item(b), P.item(b + 1), P.item(b + 2), P.item(b + 3), P.item(b + 4), P.item(b + 5)};
     }
+    // The sums and their days start from nothing for each employee; the benefit days of the
+    // list (dniZasilkoweRazem) go on adding up from one employee to the next.
     double sumaPlatne = 0, sumaZasilki = 0, suma311 = 0;
     float dni311 = 0, dniZasilku = 0;
     // Line 3 is not in the guard and line 2 counts twice.
@@ -479,6 +482,7 @@ Wynik modWyliczeniePlacy(core::Session& s, core::Dialogs& ui, const ZbioryListy&
         w.wUlgaNiewykorzystana = 0;
         w.wUlgaZastosowana = KwotaUlgi;
         if (podatek == 0) {
+            // The rate applied is not taken here: it stays from the employee before.
             w.wZdrowotnaIndywidualna = w.wZdrowotnaOdliczana = 0;
             w.wUlgaZastosowana = 0;
             w.wPodatekNaliczony = 0;
@@ -628,7 +632,7 @@ Wynik modWyliczeniePlacy(core::Session& s, core::Dialogs& ui, const ZbioryListy&
         }
     }
 
-    // Groups.
+    // Groups ("w" as stored, "z" and "u" in either case).
     if (grupa == "w" && O.s(Osoba::FGSP) == "2") w.wPodstawaFGSP = w.wBruttoPelne;
     if (grupaM == "z") {
         w.wZaliczka = 0;

@@ -755,3 +755,31 @@ TEST(Edges, FundBases) {
         EXPECT_EQ(l.s.wynik.wPodstawaFGSP, c.podstawaFGSP);
     }
 }
+
+// Walking a list: the sick sums start from nothing for each employee, the benefit days of the
+// list go on adding up (3 days of code 313, then 2 more).
+TEST(Edges, SickSumsOfTheNextEmployee) {
+    fx::Lista l("31-01-2009");
+    core::Record& p1 = l.dodaj("70051512345", 3000);
+    sick(p1, 1, 100, 5, "331", 80);
+    sick(p1, 2, 100, 3, "313", 100);
+    l.dodaj("60010112345", 3000);
+    core::Record& p3 = l.dodaj("80010112345", 3000);
+    sick(p3, 1, 100, 2, "313", 100);
+    l.zapisz();
+    reference::loadRates(l.s);
+    const paycalc::ZbioryListy z = paycalc::wczytajZbiory(l.s);
+    struct {
+        const char* klucz;
+        float platne, zasilki, dniRazem;
+    } cases[] = {{"70051512345", 400, 300, 3}, {"60010112345", 0, 0, 3}, {"80010112345", 0, 200, 5}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.klucz);
+        l.s.KluczOsoby = c.klucz;
+        ASSERT_EQ(paycalc::modWyliczeniePlacy(l.s, l.ui, z), paycalc::Wynik::Policzono);
+        EXPECT_EQ(l.s.wynik.wChorobowePlatne, c.platne);
+        EXPECT_EQ(l.s.wynik.wZasilki, c.zasilki);
+        EXPECT_EQ(l.s.wynik.dniZasilkoweRazem, c.dniRazem);
+    }
+    EXPECT_EQ(l.s.wynik.wBrutto, 2800.0f);  // 2 days absent: 28/30 of 3000
+}
