@@ -297,3 +297,24 @@ TEST(Dodatkowy, RecordIsOneLineAndReadsBack) {
     for (int n = 1; n <= Dodatkowy::Count; ++n) EXPECT_EQ(back[0].item(n), r.item(n)) << n;
     EXPECT_EQ(Dodatkowy::path(core::Session{}, Dodatkowy::Rodzaj::SwU, "a", "2101").filename(), "aSwU2101.dta");
 }
+
+TEST(Kartoteka, PersonWithoutAPayRecordKeepsTheFiguresBeforeIt) {
+    DemoLista d;
+    // ZIELIŃSKI (third) has no pay record: the calculation ends without a word and leaves the
+    // result block of WIŚNIEWSKA, which his record carries under his own name and key.
+    auto place = d.place();
+    place.erase(place.begin() + 2);
+    d.zapiszPlace(place);
+    ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
+    const auto karta = Karta::readAll(d.payer() / "Karta" / "a2101.dta");
+    ASSERT_EQ(karta.size(), 7u);
+    EXPECT_EQ(d.s.LiczbaOsob, 7);
+    EXPECT_EQ(karta[2].s(Karta::Nazwisko), "ZIELIŃSKI");
+    EXPECT_EQ(karta[2].s(Karta::Klucz), "88110578938");
+    EXPECT_EQ(karta[2].s(Karta::Miejscowosc), "Wieliczka");
+    EXPECT_EQ(karta[2].s(Karta::Etat), "  1  2");
+    for (int n : {Karta::Zasadnicza, Karta::Brutto, Karta::DoWyplaty, Karta::NumerKonta, Karta::PodstawaZUS})
+        EXPECT_EQ(karta[2].s(n), karta[1].s(n)) << n;
+    EXPECT_EQ(karta[1].s(Karta::Zasadnicza), "4800");
+    EXPECT_EQ(d.ui.boxes.size(), 2u);
+}
