@@ -5,10 +5,7 @@
 namespace paycalc {
 
 void registerScreens(core::Screens& screens) {
-    screens.add("frmlista", [](core::Session& s, core::Dialogs& d) {
-        ListaScreen f(d, s);
-        d.showForm(f);
-    });
+    screens.addForm<ListaScreen>("frmlista");
 }
 
 }  // namespace paycalc

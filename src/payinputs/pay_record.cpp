@@ -202,6 +202,24 @@ int replace(const std::filesystem::path& file, const std::string& klucz,
     return matched;
 }
 
+std::optional<core::Record> openForPerson(core::Session& s, core::Form& form, const std::string& missingText) {
+    const std::filesystem::path file = path(s);
+    if (!core::fileExists(file)) {
+        form.ui.msgBox(missingText, core::Buttons::OK, core::Icon::Information, "Brak zbioru");
+        form.guarded([&] {
+            std::error_code ec;
+            std::filesystem::create_directories(file.parent_path(), ec);
+            core::commitFile(file, std::string(), "TYMCZ.dta");
+        });
+    }
+    std::optional<core::Record> found;
+    form.guarded([&] {
+        for (core::Record& r : readAll(file))
+            if (kluczOsoby(r) == s.KluczOsoby) found = std::move(r);
+    });
+    return found;
+}
+
 }  // namespace Pay
 
 core::Record nowyRekordPlacowy(double stawka1, int numer) {

@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+#include <optional>
+
+#include "core/form.h"
 #include "core/record.h"
 #include "core/session.h"
 
@@ -49,6 +52,12 @@ void renumber(std::vector<core::Record>& recs, const std::string& koniec = kKoni
 int replace(const std::filesystem::path& file, const std::string& klucz,
             const std::function<void(core::Record&)>& change, const std::string& tempName,
             const std::string& koniec = kKoniec);
+
+// The chosen person's record for a screen that edits part of it: a missing pay file is made
+// empty after the box with `missingText` (titled "Brak zbioru"); of several records of the
+// person the last one in the file is returned; nothing when the person has none. Errors go to
+// the screen's report.
+std::optional<core::Record> openForPerson(core::Session& s, core::Form& form, const std::string& missingText);
 }  // namespace Pay
 
 // A new pay record as the pay screen makes it: the markers "<Poczatek>" and "<Koniec>", every

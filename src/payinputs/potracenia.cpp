@@ -134,26 +134,13 @@ void PotraceniaScreen::dlaBrakuDanych(bool found) {
 
 void PotraceniaScreen::Load() {
     Caption = "Potracenia " + s.NazwiskoOsoby + " " + s.ImieOsoby;
-    const fs::path file = Pay::path(s);
-    if (!core::fileExists(file)) {
-        ui.msgBox("Zakładanie nowego zbioru płacowego !", Buttons::OK, Icon::Information, "Brak zbioru");
-        guarded([&] {
-            std::error_code ec;
-            fs::create_directories(file.parent_path(), ec);
-            core::commitFile(file, std::string(), "TYMCZ.dta");
-        });
+    auto found = Pay::openForPerson(s, *this, "Zakładanie nowego zbioru płacowego !");
+    if (found) {
+        placa_ = *found;
+        boxes.fill(placa_);
     }
-    bool found = false;
-    guarded([&] {
-        for (const core::Record& r : Pay::readAll(file)) {
-            if (kluczOsoby(r) != s.KluczOsoby) continue;
-            found = true;
-            placa_ = r;
-            boxes.fill(r);
-        }
-        przelicz(placa_, false);
-    });
-    dlaBrakuDanych(found);
+    guarded([&] { przelicz(placa_, false); });
+    dlaBrakuDanych(found.has_value());
 }
 
 void PotraceniaScreen::cmdZapisz() {

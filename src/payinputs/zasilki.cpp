@@ -55,27 +55,13 @@ void ZasilkiScreen::przelicz() {
 
 void ZasilkiScreen::Load() {
     Caption = "Zasiłki " + s.NazwiskoOsoby + " " + s.ImieOsoby;
-    const fs::path file = Pay::path(s);
-    if (!core::fileExists(file)) {
-        ui.msgBox("Zakladanie nowego zbioru płacowego !", Buttons::OK, Icon::Information, "Brak zbioru");
-        guarded([&] {
-            std::error_code ec;
-            fs::create_directories(file.parent_path(), ec);
-            core::commitFile(file, std::string(), "TYMCZ.dta");
-        });
-    }
-    bool found = false;
-    guarded([&] {
-        for (const core::Record& r : Pay::readAll(file)) {
-            if (kluczOsoby(r) != s.KluczOsoby) continue;
-            found = true;
-            for (int i = 0; i < 6; ++i) pola[i]->Text = r.s(kPola[i]);
-        }
-        for (core::Control* c : pola) core::KropkaZamiastPrzecinka(c->Text);
-        przelicz();
-    });
+    auto found = Pay::openForPerson(s, *this, "Zakladanie nowego zbioru płacowego !");
+    if (found)
+        for (int i = 0; i < 6; ++i) pola[i]->Text = found->s(kPola[i]);
+    for (core::Control* c : pola) core::KropkaZamiastPrzecinka(c->Text);
+    przelicz();
     lbBrakDanych.Visible = !found;
-    CmdZapiszZasilki_.Enabled = found;
+    CmdZapiszZasilki_.Enabled = found.has_value();
 }
 
 void ZasilkiScreen::CmdZapiszZasilki() {

@@ -6,22 +6,10 @@
 
 namespace personnel {
 
-namespace {
-
-template <class Screen>
-core::Screens::Opener opener() {
-    return [](core::Session& s, core::Dialogs& d) {
-        Screen f(d, s);
-        d.showForm(f);
-    };
-}
-
-}  // namespace
-
 void registerScreens(core::Screens& screens) {
-    screens.add("frmOsoba1", opener<Osoba1Screen>());
-    screens.add("frmSortujKadrowe", opener<SortujKadroweScreen>());
-    screens.add("frmWybierzOsobę", opener<WybierzOsobeScreen>());
+    screens.addForm<Osoba1Screen>("frmOsoba1");
+    screens.addForm<SortujKadroweScreen>("frmSortujKadrowe");
+    screens.addForm<WybierzOsobeScreen>("frmWybierzOsobę");
 }
 
 }  // namespace personnel

@@ -10,10 +10,7 @@ void registerScreens(core::Screens& screens) {
     screens.add("cmdDrukListy", [](core::Session& s, core::Dialogs& d) { cmdDrukListy(s, d); });
     screens.add("CmdPaski", [](core::Session& s, core::Dialogs& d) { CmdPaski(s, d); });
     screens.add("CmdSpecyfikacja", [](core::Session& s, core::Dialogs& d) { CmdSpecyfikacja(s, d); });
-    screens.add("frmPodgladWydruku", [](core::Session& s, core::Dialogs& d) {
-        PodgladWydrukuScreen f(d, s);
-        d.showForm(f);
-    });
+    screens.addForm<PodgladWydrukuScreen>("frmPodgladWydruku");
 }
 
 }  // namespace printing

@@ -7,27 +7,15 @@
 
 namespace reference {
 
-namespace {
-
-template <class Screen>
-core::Screens::Opener opener() {
-    return [](core::Session& s, core::Dialogs& d) {
-        Screen f(d, s);
-        d.showForm(f);
-    };
-}
-
-}  // namespace
-
 void registerScreens(core::Screens& screens) {
-    screens.add("stawki", opener<PodatkiScreen>());
-    screens.add("obsluga", opener<ObslugaScreen>());
-    screens.add("wybór", opener<WyborScreen>());
-    screens.add("frmwybor", opener<WyborScreen>());
-    screens.add("Platnik", opener<MojaFirmaScreen>());
-    screens.add("frmMojaFirma", opener<MojaFirmaScreen>());
-    screens.add("instalacjalist", opener<InstalacjaScreen>());
-    screens.add("frmInstalacja", opener<InstalacjaScreen>());
+    screens.addForm<PodatkiScreen>("stawki");
+    screens.addForm<ObslugaScreen>("obsluga");
+    screens.addForm<WyborScreen>("wybór");
+    screens.addForm<WyborScreen>("frmwybor");
+    screens.addForm<MojaFirmaScreen>("Platnik");
+    screens.addForm<MojaFirmaScreen>("frmMojaFirma");
+    screens.addForm<InstalacjaScreen>("instalacjalist");
+    screens.addForm<InstalacjaScreen>("frmInstalacja");
 }
 
 }  // namespace reference
