@@ -1,4 +1,4 @@
-// Commands of the printed lists: the pay list, the payslips and the banknote specification of a
+// Commands of the printed lists: the pay list, the payslips and the count of notes and coins of a
 // list in the session's month, printed as text or PDF.
 #include "cli/cli.h"
 #include "core/error.h"

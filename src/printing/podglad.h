@@ -1,5 +1,5 @@
 // frmPodgladWydruku: the pay list of the month shown on the screen from the ledger, as it
-// prints, with the banknote specification and the print of the list.
+// prints, with the count of notes and coins and the print of the list.
 #pragma once
 #include "core/form.h"
 #include "core/session.h"

@@ -1,4 +1,4 @@
-// The banknote specification of a list paid in cash: how many notes and coins of each
+// The count of notes and coins of a list paid in cash: how many notes and coins of each
 // denomination the month's amounts to pay out take, each person counted by himself, digit by
 // digit, without carrying from one digit to the next. There is no note above 200 zł.
 #pragma once

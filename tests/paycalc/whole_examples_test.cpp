@@ -248,7 +248,7 @@ TEST(WholeMonth, Commuter) {
 // 2250.00 in 2019 for a person born 15-03-1995 (the birth date built from the PESEL, the
 // personnel record holding none): 24.39 years on 31-07-2019 (8904 days / 365) pays the advance
 // 133 of the minimum wage above; 24.48 years on 31-08-2019 (8935 days) pays none from "201908",
-// the health part 150.47 still taken: deductions 24.27 + 308.48 + 150.47 = 483.22, net 1766.78.
+// the health amount of 150.47 still taken: deductions 24.27 + 308.48 + 150.47 = 483.22, net 1766.78.
 // A group "w" worker pays it on 31-08-2019 as well.
 TEST(WholeMonth, UnderTwentySixBeforeAndFromAugust2019) {
     struct {

@@ -1,4 +1,4 @@
-// The banknote specification: the count digit by digit without carrying, the working file, the
+// The count of notes and coins: the count digit by digit without carrying, the working file, the
 // questions and the case of nothing to pay in cash.
 #include <gtest/gtest.h>
 
