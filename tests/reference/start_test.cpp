@@ -271,3 +271,18 @@ TEST(MainMenu, EntriesWithoutScreensAreDisabled) {
     EXPECT_FALSE(entry("rp7")->Enabled);
     EXPECT_EQ(entry("rp7")->ToolTipText, "Ta funkcja nie jest częścią tej wersji programu.");
 }
+
+TEST(ListDate, FolderThatCannotBeWrittenKeepsTheRecord) {
+    // Something in the way of the temporary file makes the rewrite fail for any user.
+    Demo d;
+    reference::PlaceScreen place(d.ui, d.s);
+    place.Load();
+    std::string before = readBytes(d.instalka());
+    fs::create_directory(d.dir / "tym.dta");
+    place.txtDataListyS.Text = "28-02-2021";
+    place.cmdPotwierdz();
+    ASSERT_FALSE(d.ui.boxes.empty());
+    EXPECT_EQ(core::Left(d.ui.boxes.back().text, 11), " Błąd nr 75");
+    EXPECT_EQ(readBytes(d.instalka()), before);
+    EXPECT_EQ(d.s.DataListy, "31-01-2021");
+}
