@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTableWidget>
 
 #include "gui/qtdialogs.h"
 #include "gui_support.h"
 #include "support/scripted.h"
+#include "payinputs/taryfikator.h"
 #include "trips/delegacje.h"
 
 using testing_support::ScriptedDialogs;
@@ -44,4 +46,20 @@ TEST(DelegacjeGui, ForeignTripOnTheScreen) {
     EXPECT_TRUE(nocleg->isEditable());
     EXPECT_EQ(nocleg->currentText(), "150");
     gui_support::grab(&dlg, "frmDelegacje");
+}
+
+// The pay-scale table: sixteen cells named as the control array, filled from the file.
+TEST(TaryfikatorGui, CellsOfTheTable) {
+    gui_support::DemoSession demo;
+    std::array<float, payinputs::Tabela::kKomorek> placa{};
+    for (std::size_t i = 0; i < placa.size(); ++i) placa[i] = 3000.0f + 150.0f * static_cast<float>(i);
+    payinputs::Tabela::write(demo.session, placa);
+    ScriptedDialogs ui;
+    payinputs::TaryfikatorScreen e(ui, demo.session);
+    gui::ScreenDialog dlg(e, nullptr);
+    dlg.view()->runWork([&] { e.Load(); });
+    auto* cell = dlg.findChild<QLineEdit*>("txtPlaca(15)");
+    ASSERT_NE(cell, nullptr);
+    EXPECT_EQ(cell->text(), "5250.00");
+    gui_support::grab(&dlg, "frmTaryfikator");
 }
