@@ -5,6 +5,7 @@
 #include "personnel/screens.h"
 #include "printing/screens.h"
 #include "reference/screens.h"
+#include "tax/screens.h"
 
 namespace gui {
 
@@ -14,6 +15,7 @@ void registerAllScreens(core::Screens& screens) {
     payinputs::registerScreens(screens);
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
+    tax::registerScreens(screens);
 }
 
 }  // namespace gui
