@@ -110,8 +110,8 @@ PobranePit11 pobierzPit11(const core::Session& s, const std::string& lista, cons
             Skladnik x = skladnikiDodatkow(st, r, stawkaRekordu(r));
             m.dodatki += x.A;
             m.skladkiZUS += x.S;
-            m.nfz += x.H1;
-            m.skladkaInd += x.H2;
+            m.nfz += x.H2;
+            m.skladkaInd += x.H1;
             m.zaliczka += x.podatek;
         });
         if (mc == 1)

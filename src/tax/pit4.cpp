@@ -23,14 +23,14 @@ namespace {
 
 void dodajDodatkowy(SumyPit4& t, const core::Record& r) {
     t.podstawaZdrowotna += r.f(Dod::PodstawaZdrowotna);
-    t.zdrowotnaReszta += r.f(Dod::SkladkaZdrowotna);
+    t.zdrowotnaPozostala += r.f(Dod::SkladkaZdrowotna);
     t.zdrowotna += static_cast<double>(r.f(Dod::SkladkaIndywidualna)) + r.f(Dod::SkladkaZdrowotna);
     t.podatek += r.f(Dod::PodatekNetto);
 }
 
 void dodajSkladnik(SumyPit4& t, const Skladnik& x) {
     t.podstawaZdrowotna += x.B;
-    t.zdrowotnaReszta += x.H1;
+    t.zdrowotnaPozostala += x.H2;
     t.zdrowotna += x.H1 + x.H2;
     t.podatek += x.podatek;
 }
@@ -42,7 +42,7 @@ bool dodajKarte(SumyPit4& t, const fs::path& plik) {
         if (k.i(Karta::NaLiscie) == 2) continue;
         t.osoby += 1;
         t.podstawaZdrowotna += k.f(Karta::PodstawaZdrowotna);
-        t.zdrowotnaReszta += k.f(Karta::SkladkaZdrowotnaPozostala);
+        t.zdrowotnaPozostala += k.f(Karta::SkladkaZdrowotnaPozostala);
         t.zdrowotna += static_cast<double>(k.f(Karta::SkladkaZdrowotnaOdliczana)) + k.f(Karta::SkladkaZdrowotnaPozostala);
         t.podatek += k.f(Karta::PodatekNetto);
     }
@@ -238,7 +238,7 @@ void Pit4Screen::WyliczPIT4() {
     boxes[Ilosc1].Text = std::to_string(t.osoby);
     ustaw(SumaWyplat1, t.podstawaZdrowotna);
     // The tax collected before the deduction is the advance and the deducted health part.
-    const double odliczona = t.zdrowotna - t.zdrowotnaReszta;
+    const double odliczona = t.zdrowotna - t.zdrowotnaPozostala;
     ustaw(Pobrane1, t.podatek + odliczona);
     ustaw(Odliczone1, odliczona);
     ustaw(Zaliczka1, t.podatek);

@@ -18,7 +18,7 @@ namespace tax {
 struct SumyPit4 {
     long osoby = 0;
     double podstawaZdrowotna = 0;  // ledger 138; field 7 of the supplementary records
-    double zdrowotnaReszta = 0;    // ledger 132; field 8
+    double zdrowotnaPozostala = 0;    // ledger 132; field 8
     double zdrowotna = 0;          // ledger 146 + 132; fields 9 + 8
     double podatek = 0;            // ledger 134; field 11
 };

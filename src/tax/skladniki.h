@@ -45,8 +45,8 @@ struct Skladnik {
     double A = 0;   // the amount
     double S = 0;   // social contributions
     double B = 0;   // health base
-    double H1 = 0;  // health not deducted from tax (the rest rate)
-    double H2 = 0;  // health deducted from tax
+    double H1 = 0;  // health at the rest rate (the part deducted from tax, as ledger 146)
+    double H2 = 0;  // health at the rate of Dane.dta field 30 (the part kept, as ledger 132)
     double podatek = 0;  // RoundZl(A - S) times the tax rate, 0 when freed from tax
 };
 Skladnik skladnik(const StawkiScalania& st, double A, const std::string& flagi, double stawkaPodatku);
