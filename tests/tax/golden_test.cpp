@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const fs::path kData = fs::path(__FILE__).parent_path() / "data";
+const fs::path kData = fs::path(PENSJA_TEST_DATA).parent_path() / "tax" / "data";
 
 void porownaj(const std::string& nazwa, const std::string& wydruk) {
     std::ifstream in(kData / nazwa, std::ios::binary);
