@@ -413,7 +413,7 @@ void Pit11Screen::Zapisz() {
     std::vector<core::Record> recs = Pit11::readAll(plik);
     int i = znajdz(recs, s.KluczOsoby);
     if (i < 0) {
-        core::MsgBox(ui, "Brak wpisu do pit11 tej osoby ! Dopisz");
+        core::MsgBox(ui, "Brak wpisu do pit11 tej osoby ! Dopisz", {}, Icon::Exclamation);
         return;
     }
     core::Record& r = recs[static_cast<std::size_t>(i)];
@@ -428,7 +428,8 @@ void Pit11Screen::Dopisz() {
     auto osoba = personnel::znajdzOsobe(osoby, s.KluczOsoby);
     if (!osoba) {
         core::MsgBox(ui, "Nie znaleziono danych w dla " + core::RTrim(s.NazwiskoOsoby) + " " + core::RTrim(s.ImieOsoby) +
-                             " w zbiorze danych personalnych");
+                             " w zbiorze danych personalnych",
+                     {}, Icon::Exclamation);
         return;
     }
     const fs::path plik = path(s, lista());
@@ -455,7 +456,7 @@ void Pit11Screen::ZeZbioru() {
     std::vector<core::Record> recs = czytajJesliJest(path(s, lista()), &Pit11::readAll);
     int i = znajdz(recs, s.KluczOsoby);
     if (i < 0) {
-        core::MsgBox(ui, "Nie znaleziono zapisanego zbioru Pit11 dla tej osoby !");
+        core::MsgBox(ui, "Nie znaleziono zapisanego zbioru Pit11 dla tej osoby !", {}, Icon::Exclamation);
         return;
     }
     const core::Record& r = recs[static_cast<std::size_t>(i)];
@@ -530,7 +531,7 @@ void Pit11Screen::Drukuj(Druk druk, bool bezPytania) {
     std::vector<core::Record> recs = czytajJesliJest(path(s, lista()), &Pit11::readAll);
     int i = znajdz(recs, s.KluczOsoby);
     if (i < 0) {
-        core::MsgBox(ui, "Nie znaleziono zapisanego zbioru Pit11 dla tej osoby !");
+        core::MsgBox(ui, "Nie znaleziono zapisanego zbioru Pit11 dla tej osoby !", {}, Icon::Exclamation);
         return;
     }
     if (druk == Druk::Pit40) reference::loadRates(s);
