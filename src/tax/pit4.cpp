@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
+#include "printing/lista_plac.h"
 #include "reference/payers.h"
 #include "reference/rates.h"
 #include "tax/skladniki.h"
@@ -313,7 +314,11 @@ void Pit4Screen::DrukujPIT4() {
     if (ui.msgBox("Upewnij się czy drukarka jest gotowa!", Buttons::YesNo, Icon::Question, "Sprawdź Drukarkę") ==
         core::Answer::No)
         return;
-    drukujFormularz();
+    try {
+        drukujFormularz();
+    } catch (const core::Error& e) {
+        if (!printing::DrukListy::bladDrukarki(ui, e)) throw;
+    }
 }
 
 void Pit4Screen::drukujFormularz() {

@@ -153,3 +153,40 @@ TEST(Pit11, BoxesOfThePersonCommands) {
 }
 
 }  // namespace
+
+namespace {
+
+struct Roczny {
+    const char* nazwa;
+    double przychod, koszty, skladki, zdrowotna, zaliczki;
+    double podstawa, podatek, nalezny, doZaplaty, nadplata;
+};
+
+// The rates of 2021: 17% up to 85528, 32% above, relief 12 x 43.76 = 525.12.
+// 97000 - 3000 - 13710 = 80290 x 0.17 = 13649.30 - 525.12 - 6000 = 7124.18 -> 7124, paid 8000.
+// 120000 - 3000 - 16000 = 101000: 85528 x 0.17 + 15472 x 0.32 = 14539.76 + 4951.04 = 19490.80
+// - 525.12 - 7000 = 11965.68 -> 11966, paid 11000.
+const Roczny kRoczne[] = {
+    {"first bracket, overpaid", 97000, 3000, 13710, 6000, 8000, 80290, 13649.3, 7124, 0, 876},
+    {"second bracket, to pay", 120000, 3000, 16000, 7000, 11000, 101000, 19490.8, 11966, 966, 0},
+};
+
+TEST(Pit40, AnnualTaxOnTheScaleOfTheYear) {
+    tax_tests::Dane d;
+    for (const Roczny& x : kRoczne) {
+        core::Record r(P::schema());
+        r.set(P::RazemRazem, x.przychod);
+        r.set(P::RazemKoszty, x.koszty);
+        r.set(P::SumaSkladkiZUS, x.skladki);
+        r.set(P::SumaRobocza, x.zdrowotna);
+        r.set(P::RazemZaliczka, static_cast<float>(x.zaliczki));
+        tax::RozliczeniePit40 w = tax::rozliczPit40(r, d.s.stawki);
+        EXPECT_DOUBLE_EQ(w.podstawa, x.podstawa) << x.nazwa;
+        EXPECT_NEAR(w.podatekSkala, x.podatek, 1e-3) << x.nazwa;
+        EXPECT_DOUBLE_EQ(w.podatekNalezny, x.nalezny) << x.nazwa;
+        EXPECT_DOUBLE_EQ(w.doZaplaty, x.doZaplaty) << x.nazwa;
+        EXPECT_DOUBLE_EQ(w.nadplata, x.nadplata) << x.nazwa;
+    }
+}
+
+}  // namespace
