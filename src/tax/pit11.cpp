@@ -314,14 +314,22 @@ void Pit11Screen::Load() {
     if (txtDoData.Text.empty()) txtDoData.Text = "31-12-" + rok;
     if (txtRodzajPlatnika.Text.empty() && s.Firma.valid()) txtRodzajPlatnika.Text = s.Firma.s(reference::Firma::RodzajPlatnika);
     if (txtKosztyU.Text.empty()) txtKosztyU.Text = "1";
-    Caption = "PIT11 " + core::RTrim(s.NazwiskoOsoby) + " " + core::RTrim(s.ImieOsoby);
+    // Opened with a key alone, the person's names and code come from the personnel file.
+    if (s.NazwiskoOsoby.empty() && !s.KluczOsoby.empty()) {
+        auto osoba = personnel::znajdzOsobe(czytajJesliJest(Osoba::path(s), &Osoba::readAll), s.KluczOsoby);
+        if (osoba) {
+            s.NazwiskoOsoby = core::Trim(osoba->s(Osoba::Nazwisko));
+            s.ImieOsoby = core::Trim(osoba->s(Osoba::Imie));
+            s.KodUbezpieczeniaOsoby = core::Trim(osoba->s(Osoba::KodUbezpieczenia));
+        }
+    }
     lbOsoba.Caption = core::RTrim(s.NazwiskoOsoby) + " " + core::RTrim(s.ImieOsoby) + ", " + s.KluczOsoby + ", lista " +
                       s.NazwaZbioru + ", rok " + rok;
     for (std::size_t i = 0; i < boxes.size(); ++i)
         if (boxes.box(i).Text.empty()) boxes.box(i).Text = "0.00";
 }
 
-double Pit11Screen::v(int pole) const { return liczba(const_cast<core::FieldBoxes&>(boxes)[pole].Text); }
+double Pit11Screen::v(int pole) { return liczba(boxes[pole].Text); }
 
 void Pit11Screen::ustaw(int pole, double wartosc) { boxes[pole].Text = kwota(wartosc); }
 
@@ -370,9 +378,9 @@ void Pit11Screen::Pobierz() {
     ustaw(RazemRazem, v(RazemPlaca) + v(RazemGodziny) + v(RazemDodatki) + v(Trzynastka) + v(Jubileusz) + v(SwUrlopowe));
 }
 
-core::Record Pit11Screen::rekord(const core::Record& baza) const {
+core::Record Pit11Screen::rekord(const core::Record& baza) {
     core::Record r = baza;
-    auto& b = const_cast<core::FieldBoxes&>(boxes);
+    auto& b = boxes;
     for (std::size_t i = 0; i < b.size(); ++i) {
         int pole = b.def(i).field;
         if (pole == RazemZaliczka)

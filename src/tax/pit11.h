@@ -67,7 +67,7 @@ public:
 
     // The sheet's boxes as a record of the file for the session's person (sums of the second
     // incomes and of the health parts worked out).
-    core::Record rekord(const core::Record& baza) const;
+    core::Record rekord(const core::Record& baza);
     // The values printed on a form from a saved record.
     Wartosci wartosci(const core::Record& r, Druk druk) const;
     // The month rows shown (filled by Pobierz).
@@ -99,7 +99,7 @@ public:
     core::Control CmdKoniec{this, "CmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
-    double v(int pole) const;
+    double v(int pole);
     void ustaw(int pole, double wartosc);
     void pokazMiesiace();
     std::string lista() const;

@@ -246,13 +246,15 @@ void Pit4Screen::WyliczPIT4() {
 }
 
 void Pit4Screen::Wylicz() {
-    double wyplaty = 0, pobrane = 0, odliczone = 0, zaliczki = 0;
+    double osoby = 0, wyplaty = 0, pobrane = 0, odliczone = 0, zaliczki = 0;
     for (int i = 0; i < 8; ++i) {
+        osoby += v(Ilosc1 + i);
         wyplaty += v(SumaWyplat1 + i);
         pobrane += v(Pobrane1 + i);
         odliczone += v(Odliczone1 + i);
         zaliczki += v(Zaliczka1 + i);
     }
+    boxes[RazemIlosc].Text = core::numText(osoby);
     ustaw(RazemSumaWyplat, wyplaty);
     ustaw(RazemPobrana, pobrane);
     ustaw(RazemOdliczona, odliczone);
@@ -263,10 +265,9 @@ void Pit4Screen::Wylicz() {
     ustaw(KwotaDoWplaty, doWplaty < 0 ? 0 : doWplaty);
 }
 
-core::Record Pit4Screen::arkusz() const {
+core::Record Pit4Screen::arkusz() {
     core::Record r(kSchema);
-    auto& b = const_cast<core::FieldBoxes&>(boxes);
-    for (std::size_t i = 0; i < b.size(); ++i) r.set(b.def(i).field, liczba(b.box(i).Text));
+    for (std::size_t i = 0; i < boxes.size(); ++i) r.set(boxes.def(i).field, liczba(boxes.box(i).Text));
     return r;
 }
 
@@ -289,7 +290,7 @@ void Pit4Screen::ZeZbioru() {
     }
 }
 
-Wartosci Pit4Screen::wartosci() const {
+Wartosci Pit4Screen::wartosci() {
     Wartosci w;
     const core::Record& f = s.Firma;
     if (f.valid()) {

@@ -65,8 +65,8 @@ public:
     // The form without the question (the command line).
     void drukujFormularz();
     // The sheet as a record of the file, and the values of the form.
-    core::Record arkusz() const;
-    Wartosci wartosci() const;
+    core::Record arkusz();
+    Wartosci wartosci();
     // The letters of the set the sums are taken over (the session's set unless given).
     std::string Zestaw;
 
