@@ -190,3 +190,25 @@ TEST(Pit40, AnnualTaxOnTheScaleOfTheYear) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(Pit11, NoToTheFirstQuestionPrintsPit8BAndNoToTheSecondEndsAfterPageOne) {
+    tax_tests::Dane d;
+    tax_tests::rokNowaka(d);
+    d.s.Drukarka = "D";
+    Pit11Screen ekran(d.ui, d.s);
+    ekran.Load();
+    ekran.Pobierz();
+    ekran.Zapisz();
+    d.ui.answer(core::Answer::No).answer(core::Answer::No);
+    ekran.Drukuj(tax::Druk::Pit11);
+    const auto strony = d.ui.paper.pages();
+    ASSERT_EQ(strony.size(), 1u);
+    // A printer other than "L" feeds one line first; PIT-8B has the person one line lower than PIT-11.
+    ASSERT_GE(strony[0].size(), 25u);
+    EXPECT_EQ(strony[0][0].text, "");
+    EXPECT_EQ(strony[0][24].text.substr(0, 15), "    P O L S K A");
+}
+
+}  // namespace
