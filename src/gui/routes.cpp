@@ -6,6 +6,7 @@
 #include "printing/screens.h"
 #include "reference/screens.h"
 #include "trips/screens.h"
+#include "tax/screens.h"
 
 namespace gui {
 
@@ -16,6 +17,7 @@ void registerAllScreens(core::Screens& screens) {
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
     trips::registerScreens(screens);
+    tax::registerScreens(screens);
 }
 
 }  // namespace gui
