@@ -166,7 +166,7 @@ void ListaScreen::zbudujRamki() {
             [this, t] { drukujZakladke(t); };
         kontrolka(z.usun).ToolTipText = "Usuwa cały zbiór tej zakładki za miesiąc daty listy";
         kontrolka(std::string("cmdDruk") + z.litera).ToolTipText = "Lista wypłat tej zakładki za miesiąc: podgląd, PDF, drukarka";
-        Control& ror = nowa(z.ror, Kind::CheckBox, "Na konto ROR", frame);
+        Control& ror = nowa(z.ror, Kind::CheckBox, "Wypłata na konto", frame);
         ror.ToolTipText = "Zaznaczone: kwota do wypłaty idzie na rachunek bankowy";
         if (z.potracenie) nowa(z.potracenie, Kind::TextBox, {}, frame).label("Potrącenie").width(10);
     }
