@@ -412,7 +412,7 @@ std::string wiersz(const std::string& lp, const std::string& nazwa, const std::a
                    const std::string& konto) {
     std::string l = kolumna(lp, 4) + " " + core::PadRight(core::Left(nazwa, 30), 30);
     for (double k : kwoty) l += " " + core::Kw10(k);
-    return l + " " + konto;
+    return konto.empty() ? l : l + " " + konto;
 }
 
 }  // namespace
@@ -429,12 +429,12 @@ bool drukujDodatki(const core::Session& s, core::Dialogs& ui, Rodzaj rodzaj) {
     p.print(std::string(kTytulyList[static_cast<int>(rodzaj)]) + " - lista " + core::RTrim(s.NazwaListy) + " (" +
             s.NazwaZbioru + ")   data listy " + s.DataListy);
     p.setBold(false);
-    p.print(std::string(150, '='));
+    p.print(std::string(145, '='));
     std::string naglowek = " Lp. " + core::PadRight("Nazwisko i imię", 30);
     for (const char* k : {"Kwota", "Składki", "Zdrowotna", "Podatek", "Netto", "Do wypłaty", "Na konto"})
         naglowek += " " + core::PadLeft(k, 10);
     p.print(naglowek + " Nr konta");
-    p.print(std::string(150, '-'));
+    p.print(std::string(145, '-'));
     std::array<double, 7> suma{};
     int lp = 0;
     for (const Record& r : Dodatkowy::readAll(file)) {
@@ -454,7 +454,7 @@ bool drukujDodatki(const core::Session& s, core::Dialogs& ui, Rodzaj rodzaj) {
         p.print(wiersz(std::to_string(++lp), core::RTrim(r.s(Nazwisko)) + " " + core::RTrim(r.s(Imie)), kw,
                        r.s(NumerKonta)));
     }
-    p.print(std::string(150, '-'));
+    p.print(std::string(145, '-'));
     p.setBold(true);
     p.print(wiersz("", "Razem", suma, ""));
     p.setBold(false);

@@ -290,3 +290,26 @@ TEST(Frame, DeleteBoxesByKind) {
     EXPECT_FALSE(usunDodatki(z.s, z.ui, Rodzaj::God));
     EXPECT_EQ(z.ui.last(), "[Brak zbioru] Nie ma założoneg zbioru godzin !");
 }
+
+TEST(Wydruk, OvertimeListMatchesItsReferenceFile) {
+    // NOWAK 10 planned and 2 night hours in cash; WIŚNIEWSKA 5 replacement hours at 4800 / 168
+    // into her account; the others founded but not computed stay off the list.
+    Zbior z;
+    zalozZbiorDodatkowy(z.s, Rodzaj::God);
+    auto nadgodziny = [&](const char* klucz, const char* nazwisko, int kategoria, const char* godziny, bool ror) {
+        z.wybierz(klucz, nazwisko);
+        return wykonajDodatek(z.s, z.ui, Rodzaj::God, [&](Record& rec) {
+            Nadgodziny we{rec.s(Podstawa), "", "", "", "a", {}, {}, ror};
+            we.Il[kategoria] = godziny;
+            if (kategoria == 0) we.Il[3] = "2";
+            liczNadgodziny(z.s, rec, we);
+        });
+    };
+    ASSERT_EQ(nadgodziny("75031412317", "NOWAK", 0, "10", false), Przebieg::Wyliczono);
+    ASSERT_EQ(nadgodziny("63072245629", "WIŚNIEWSKA", 1, "5", true), Przebieg::Wyliczono);
+    ASSERT_TRUE(drukujDodatki(z.s, z.ui, Rodzaj::God));
+    std::ifstream in(std::filesystem::path(__FILE__).parent_path() / "data" / "dodatki" / "godziny.txt", std::ios::binary);
+    std::ostringstream wzorzec;
+    wzorzec << in.rdbuf();
+    EXPECT_EQ(z.ui.paper.text(), wzorzec.str());
+}
