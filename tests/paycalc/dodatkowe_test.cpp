@@ -308,7 +308,7 @@ TEST(Wydruk, OvertimeListMatchesItsReferenceFile) {
     ASSERT_EQ(nadgodziny("75031412317", "NOWAK", 0, "10", false), Przebieg::Wyliczono);
     ASSERT_EQ(nadgodziny("63072245629", "WIŚNIEWSKA", 1, "5", true), Przebieg::Wyliczono);
     ASSERT_TRUE(drukujDodatki(z.s, z.ui, Rodzaj::God));
-    std::ifstream in(std::filesystem::path(__FILE__).parent_path() / "data" / "dodatki" / "godziny.txt", std::ios::binary);
+    std::ifstream in(std::filesystem::path(PENSJA_REFERENCE) / ".." / "paycalc" / "data" / "dodatki" / "godziny.txt", std::ios::binary);
     std::ostringstream wzorzec;
     wzorzec << in.rdbuf();
     EXPECT_EQ(z.ui.paper.text(), wzorzec.str());
