@@ -287,6 +287,7 @@ TEST(Frame, DeleteBoxesByKind) {
         EXPECT_FALSE(core::fileExists(path(z.s, c.rodzaj)));
     }
     // Overtime asks nothing; without the file it warns.
+    ASSERT_TRUE(usunDodatki(z.s, z.ui, Rodzaj::God));  // the demo's January
     EXPECT_FALSE(usunDodatki(z.s, z.ui, Rodzaj::God));
     EXPECT_EQ(z.ui.last(), "[Brak zbioru] Nie ma założoneg zbioru godzin !");
 }
