@@ -353,7 +353,7 @@ Przebieg wykonajDodatek(core::Session& s, core::Dialogs& ui, Rodzaj rodzaj, cons
     } else if (rodzaj == Rodzaj::SwU) {
         ui.msgBox("Osoby " + s.NazwiskoOsoby + " " + s.ImieOsoby +
                       " nie ma w zbiorze świadczeń urlopowych tego miesiąca: nic nie zapisano.",
-                  Buttons::OK, Icon::Information, "Świadczenia urlopowe");
+                  Buttons::OK, Icon::Exclamation, "Świadczenia urlopowe");
         return Przebieg::PozaZbiorem;
     } else {
         const std::vector<Record> place = placeListy(s);
