@@ -401,6 +401,29 @@ bool usunDodatki(const core::Session& s, core::Dialogs& ui, Rodzaj rodzaj) {
     return true;
 }
 
+Rozliczenie zRekordu(Rodzaj rodzaj, const Record& rec, const core::Stawki& st) {
+    Rozliczenie r;
+    const float k = rec.f(RazemKwota);
+    if (rodzaj == Rodzaj::God || rodzaj == Rodzaj::Trz) {
+        const float b = rec.f(KwotaBrutto);
+        r.skl = skladki(st, b, b);
+    }
+    r.PodstawaZdrowotna = rec.f(PodstawaZdrowotna);
+    r.SkladkaZdrowotna = rec.f(SkladkaZdrowotna);
+    r.SkladkaIndywidualna = rec.f(SkladkaIndywidualna);
+    r.StawkaPodatku = rec.d(StawkaPodatku);
+    r.PodatekNetto = rec.f(PodatekNetto);
+    r.PlacaNetto = rec.f(PlacaNetto);
+    r.DoWyplaty = rec.f(DoWyplaty);
+    r.NaROR = rec.f(NaROR);
+    r.RazemPotracenia = Round2(static_cast<double>(k) - r.PlacaNetto);
+    r.skl.Razem = Round2(static_cast<double>(r.RazemPotracenia) - r.SkladkaZdrowotna - r.SkladkaIndywidualna -
+                         r.PodatekNetto);
+    r.PodstawaPodatku = RoundZl(static_cast<double>(k) - r.skl.Razem);
+    if (rodzaj != Rodzaj::Jub && rodzaj != Rodzaj::SwU) r.PodatekBrutto = Round2(r.StawkaPodatku * r.PodstawaPodatku);
+    return r;
+}
+
 namespace {
 
 const char* const kTytulyList[] = {"GODZINY NADLICZBOWE", "DODATKI", "TRZYNASTKA", "NAGRODY JUBILEUSZOWE",
@@ -440,16 +463,14 @@ bool drukujDodatki(const core::Session& s, core::Dialogs& ui, Rodzaj rodzaj) {
     for (const Record& r : Dodatkowy::readAll(file)) {
         const double k = r.f(RazemKwota);
         if (k == 0) continue;
-        // The contributions are what the deductions hold beside health and tax.
-        const double potracenia = k - r.f(PlacaNetto);
-        const double zdrowotna = static_cast<double>(r.f(SkladkaZdrowotna)) + r.f(SkladkaIndywidualna);
+        const Rozliczenie z = zRekordu(rodzaj, r, s.stawki);
         const std::array<double, 7> kw{k,
-                                       Round2(potracenia - zdrowotna - r.f(PodatekNetto)),
-                                       zdrowotna,
-                                       r.f(PodatekNetto),
-                                       r.f(PlacaNetto),
-                                       r.f(DoWyplaty),
-                                       r.f(NaROR)};
+                                       z.skl.Razem,
+                                       static_cast<double>(z.SkladkaZdrowotna) + z.SkladkaIndywidualna,
+                                       z.PodatekNetto,
+                                       z.PlacaNetto,
+                                       z.DoWyplaty,
+                                       z.NaROR};
         for (std::size_t i = 0; i < kw.size(); ++i) suma[i] += kw[i];
         p.print(wiersz(std::to_string(++lp), core::RTrim(r.s(Nazwisko)) + " " + core::RTrim(r.s(Imie)), kw,
                        r.s(NumerKonta)));

@@ -130,6 +130,11 @@ Przebieg wykonajDodatek(core::Session& s, core::Dialogs& ui, Dodatkowy::Rodzaj r
 // The delete commands: the month's file of the kind removed (questions and boxes by kind).
 bool usunDodatki(const core::Session& s, core::Dialogs& ui, Dodatkowy::Rodzaj r);
 
+// The deductions of a computed record as the file keeps them: the contributions are what the
+// deductions hold beside health and tax; the three parts only where they follow from the base
+// alone (overtime and the thirteenth pay, where the annual limit does not cut them).
+Rozliczenie zRekordu(Dodatkowy::Rodzaj r, const core::Record& rec, const core::Stawki& st);
+
 // The printed list of a run of the month: one line a person with an amount, the totals.
 // false (and a box) when the month's file is missing.
 bool drukujDodatki(const core::Session& s, core::Dialogs& ui, Dodatkowy::Rodzaj r);

@@ -83,12 +83,13 @@ struct PoleWyniku {
     int pole;
     float (*wartosc)(const Rozliczenie&);
     bool podatkowy;
+    bool czesc = false;  // one of the three contributions
 };
 const PoleWyniku kWyniki[] = {
     {"lbPodstawaZUS", "Podstawa składek", KwotaBrutto, nullptr, false},
-    {"LbEmerytalna", "Emerytalna", 0, [](const Rozliczenie& r) { return r.skl.Emerytalna; }, false},
-    {"LbRentowa", "Rentowa", 0, [](const Rozliczenie& r) { return r.skl.Rentowa; }, false},
-    {"LbChorobowa", "Chorobowa", 0, [](const Rozliczenie& r) { return r.skl.Chorobowa; }, false},
+    {"LbEmerytalna", "Emerytalna", 0, [](const Rozliczenie& r) { return r.skl.Emerytalna; }, false, true},
+    {"LbRentowa", "Rentowa", 0, [](const Rozliczenie& r) { return r.skl.Rentowa; }, false, true},
+    {"LbChorobowa", "Chorobowa", 0, [](const Rozliczenie& r) { return r.skl.Chorobowa; }, false, true},
     {"LbRazemSkładki", "Razem składki", 0, [](const Rozliczenie& r) { return r.skl.Razem; }, false},
     {"LbPodstawaKasy", "Podstawa zdrowotnej", PodstawaZdrowotna, nullptr, false},
     {"lbSkładkaZdr", "Składka zdrowotna", SkladkaZdrowotna, nullptr, false},
@@ -242,6 +243,7 @@ void ListaScreen::pokazRekord(int tab) {
         for (const PoleWyniku& w : kWyniki)
             if (Control* c = find(nazwaWyniku(w, tab)); c && w.pole) c->Caption = r.s(w.pole);
         kontrolka(kZakladki[tab - 1].ror).Value = r.s(OpcjaROR) == "1" ? 1 : 0;
+        if (r.f(RazemKwota) != 0) pokazRozliczenie(tab, zRekordu(rodzajZakladki(tab), r, s.stawki));
         if (tab == 2) {
             for (int i = 0; i < 7; ++i) flagi_[i] = r.s(Il1 + i);
             pokazFlagi();
@@ -278,8 +280,12 @@ void ListaScreen::ChkD_Click() {
 }
 
 void ListaScreen::pokazRozliczenie(int tab, const Rozliczenie& r) {
+    // Read back from the additions' file, the three parts of the contributions stay blank: the
+    // file does not tell them apart.
+    const bool czesci = r.skl.Razem == 0 || r.skl.Emerytalna + r.skl.Rentowa + r.skl.Chorobowa != 0;
     for (const PoleWyniku& w : kWyniki)
-        if (Control* c = find(nazwaWyniku(w, tab)); c && w.wartosc) c->Caption = core::numText(w.wartosc(r));
+        if (Control* c = find(nazwaWyniku(w, tab)); c && w.wartosc)
+            c->Caption = (czesci || !w.czesc) ? core::numText(w.wartosc(r)) : std::string();
 }
 
 void ListaScreen::wylicz(int tab) {

@@ -390,6 +390,8 @@ TEST(Lista, AdditionsTabKeepsTheSwitchesOfEachKind) {
     // Back on the person: the switches come from the file.
     e.wybierz(1);
     e.wybierz(0);
+    EXPECT_EQ(e.f.kontrolka("LbRazemSkładkiD").Caption, "164.52");
+    EXPECT_EQ(e.f.kontrolka("LbEmerytalnaD").Caption, "");
     e.kliknij("optD3");
     EXPECT_EQ(e.f.kontrolka("ChkNFZD").Value, 0);
     EXPECT_EQ(e.f.kontrolka("ChkSkladkiZUSD").Value, 1);
