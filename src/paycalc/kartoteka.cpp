@@ -252,15 +252,14 @@ float podstawaRoczna(const core::Session& s, const std::string& klucz, const std
         if (auto r = pierwszy(Karta::path(s, lista, RRmm), Karta::schema(), Karta::Klucz, klucz))
             suma += r->f(Karta::PodstawaZUS);
         using Dodatkowy::Rodzaj;
-        const core::Schema& d = Dodatkowy::schema();
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::God, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::God, lista, RRmm), klucz))
             suma += r->f(Dodatkowy::KwotaBrutto);
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::Dod, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::Dod, lista, RRmm), klucz))
             suma += static_cast<double>(r->f(Dodatkowy::Kw1)) + r->f(Dodatkowy::Kw2) + r->f(Dodatkowy::Kw3) +
                     r->f(Dodatkowy::Kw4) + r->f(Dodatkowy::Kw5);
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::SwU, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::SwU, lista, RRmm), klucz))
             suma += r->f(Dodatkowy::KwotaBrutto);
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::Jub, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::Jub, lista, RRmm), klucz))
             suma += r->f(Dodatkowy::KwotaBrutto);
     }
     return core::Round2(suma);

@@ -258,7 +258,8 @@ TEST(PodstawaRoczna, SumsTheMonthsPresentAndLeavesTheThirteenthOut) {
     EXPECT_EQ(podstawaRoczna(d.s, klucz, "2021"), 15812.5f);
     EXPECT_EQ(podstawaRoczna(d.s, klucz, "20"), 777.0f);
     EXPECT_EQ(podstawaRoczna(d.s, klucz, "2019"), 0.0f);
-    EXPECT_EQ(podstawaRoczna(d.s, "63072245629", ""), 9999.0f);
+    // 9999 and her overtime of January in the demo, 142.85.
+    EXPECT_EQ(podstawaRoczna(d.s, "63072245629", ""), 10141.85f);
     EXPECT_EQ(podstawaRoczna(d.s, "00000000000", ""), 0.0f);
 }
 
