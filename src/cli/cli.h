@@ -22,6 +22,9 @@ public:
     core::Answer msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) override;
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title, const std::string& def) override;
     void showForm(core::Form& form) override;
+    // The folder given by the command (--out FOLDER); without one the command stops.
+    std::optional<std::filesystem::path> folder;
+    std::optional<std::filesystem::path> chooseFolder(const std::string& title, const std::filesystem::path& start) override;
     core::TextPrinter paper;
     core::Printer& printer() override { return paper; }
 };

@@ -48,6 +48,11 @@ std::optional<std::string> CliDialogs::inputBox(const std::string& prompt, const
     throw Unanswered("pytanie bez odpowiedzi: [" + title + "] " + prompt);
 }
 
+std::optional<std::filesystem::path> CliDialogs::chooseFolder(const std::string& title, const std::filesystem::path&) {
+    if (!folder) throw Unanswered("nie podano folderu (użyj --out FOLDER): [" + title + "]");
+    return folder;
+}
+
 void CliDialogs::showForm(core::Form& form) {
     form.guarded([&] { form.Load(); });
 }

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -91,6 +92,13 @@ std::optional<std::string> QtDialogs::inputBox(const std::string& prompt, const 
     dlg.setCancelButtonText("Anuluj");
     if (dlg.exec() != QDialog::Accepted) return std::nullopt;
     return s(dlg.textValue());
+}
+
+std::optional<std::filesystem::path> QtDialogs::chooseFolder(const std::string& title,
+                                                             const std::filesystem::path& start) {
+    const QString folder = QFileDialog::getExistingDirectory(activeParent(), q(title), q(start.string()));
+    if (folder.isEmpty()) return std::nullopt;
+    return std::filesystem::path(s(folder));
 }
 
 void QtDialogs::showForm(core::Form& form) {
