@@ -107,6 +107,8 @@ std::string kontoPlatnika(const core::Session& s) {
 
 std::string firma(const core::Session& s, int pole) { return s.Firma.valid() ? s.Firma.s(pole) : std::string(); }
 
+}  // namespace
+
 std::vector<std::string> pozycjeHomeNet(const core::Session& s, const core::Record& r) {
     const std::string a = r.s(Ror::Adres);
     const std::string kod = core::Trim(core::Mid(a, 1, 6)), miasto = core::Trim(core::Mid(a, 7, 20)),
@@ -136,6 +138,8 @@ std::vector<std::string> pozycjeHomeNet(const core::Session& s, const core::Reco
             core::Space(30),
             core::Space(30)};
 }
+
+namespace {
 
 std::string polacz(const std::vector<std::string>& pozycje) {
     std::string out;
@@ -267,8 +271,6 @@ double razem(const std::vector<core::Record>& recs) {
     for (const core::Record& r : recs) suma += r.f(Ror::Kwota);
     return suma;
 }
-
-std::string liniaHomeNet(const core::Session& s, const core::Record& ror) { return polacz(pozycjeHomeNet(s, ror)); }
 
 fs::path plikHomeNet(const core::Session& s, const std::string& nrBanku) {
     return s.payerPath({"HOMENET", "ROR" + core::Trim(nrBanku) + Ror::dataPrzelewu(s) + ".txt"});

@@ -56,8 +56,9 @@ std::optional<std::vector<core::Record>> wczytajRor(core::Session& s, core::Dial
 // The total of the batch's amounts.
 double razem(const std::vector<core::Record>& recs);
 
-// One line of the HomeNet file for a record of the batch.
-std::string liniaHomeNet(const core::Session& s, const core::Record& ror);
+// The fourteen items of the HomeNet line of a record of the batch (the line joins them with
+// commas, without quotes).
+std::vector<std::string> pozycjeHomeNet(const core::Session& s, const core::Record& ror);
 // HOMENET\ROR<bank><rrrrmmdd>.txt
 std::filesystem::path plikHomeNet(const core::Session& s, const std::string& nrBanku);
 // cmdDohomenet: the question, the lines of the accounts of the bank, the box of a doubtful
