@@ -37,7 +37,7 @@ DoBankuScreen::DoBankuScreen(core::Dialogs& ui, core::Session& session)
     cmdSort_.at(2, 2);
     cmdZapiszPosortowany_.at(2, 3);
     CmdUsunRekord_.at(3, 0);
-    Text1.at(3, 1).width(16).tip("Początek nazwiska do odszukania");
+    Text1.at(3, 1).label("Szukane nazwisko").width(16).tip("Nazwisko lub jego część do odszukania w tabeli");
     cmdFindTxt_.at(3, 2);
     cmdKoniec.at(3, 3);
     MSFlexGrid1.at(4, 0, 4).width(120);
