@@ -116,6 +116,7 @@ void DoBankuScreen::CmdUtworzRor() {
             ProgressBar1.Value = value;
             DoEvents();
         };
+        txtZestawZ.Text = core::UCase(txtZestawZ.Text);
         Zlecenie z{txtZestawZ.Text, txtNrUnikatowy.Text, CmbWybierzListe.Text, txtNrDodatku.Text};
         auto recs = utworzRor(s, ui, z, podstawa_, postep);
         if (recs) pokaz(*recs);

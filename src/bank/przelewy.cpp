@@ -281,6 +281,10 @@ std::optional<fs::path> cmdDohomenet(core::Session& s, core::Dialogs& ui, const 
     if (ui.msgBox("Czy chcesz wykonać zbiór do HomeNet", Buttons::YesNo, Icon::Question, kPytanieRezygnacja) !=
         Answer::Yes)
         return std::nullopt;
+    if (core::Trim(nrBanku).empty()) {
+        core::MsgBox(ui, "Ustal nr unikatowy banku 0d 3 do 6 cyfry konta");
+        return std::nullopt;
+    }
     auto recs = wczytajRor(s, ui, zestaw, rodzaj);
     if (!recs) return std::nullopt;
     const std::string bank = core::Left(core::Trim(nrBanku), 4);
