@@ -337,8 +337,9 @@ std::optional<fs::path> CmdNaDyskietke(core::Session& s, core::Dialogs& ui, cons
     auto recs = wczytajRor(s, ui, zestaw, rodzaj);
     if (!recs) return std::nullopt;
     const fs::path start = s.FolderDyskietki.empty() ? s.payerFolder() : s.FolderDyskietki;
-    std::optional<fs::path> folder = ui.chooseFolder("Folder zestawienia dla banku", start);
-    if (!folder) return std::nullopt;
+    const std::optional<std::string> wybor = ui.folderBox("Folder zestawienia dla banku", start.string());
+    if (!wybor || core::Trim(*wybor).empty()) return std::nullopt;
+    const std::optional<fs::path> folder = fs::path(core::Trim(*wybor));
     std::error_code ec;
     if (!fs::is_directory(*folder, ec)) {
         ui.msgBox("Nie ma folderu " + folder->string() + ". Wybierz istniejący folder.", Buttons::OK, Icon::Exclamation,

@@ -99,7 +99,7 @@ cli::Register dyskietka("diskette", {kDiskette,
                                          const std::string folder = opcja(c, "--out");
                                          argumenty(c, 2, kDiskette);
                                          if (folder.empty()) throw cli::Usage("podaj folder: --out FOLDER");
-                                         c.dialogs.folder = std::filesystem::absolute(folder);
+                                         c.dialogs.folder = std::filesystem::absolute(folder).string();
                                          c.openSession();
                                          auto plik = bank::CmdNaDyskietke(c.session, c.dialogs, c.args[0], c.args[1], "");
                                          if (!plik) return 1;

@@ -2,7 +2,6 @@
 // and letting the screen repaint during long work. The Qt program, the command line and the
 // tests each give their own implementation.
 #pragma once
-#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -26,11 +25,10 @@ public:
     // The typed text, or nothing when the operator cancelled.
     virtual std::optional<std::string> inputBox(const std::string& prompt, const std::string& title = {},
                                                 const std::string& def = {}) = 0;
-    // A folder chosen by the operator, starting at `start`; nothing when cancelled or where the
-    // program cannot ask.
-    virtual std::optional<std::filesystem::path> chooseFolder(const std::string& title,
-                                                              const std::filesystem::path& start) {
-        return std::nullopt;
+    // A folder chosen by the operator (a folder dialog in the program), or nothing when
+    // cancelled. Where no such dialog exists the folder is typed in an input box.
+    virtual std::optional<std::string> folderBox(const std::string& title, const std::string& start = {}) {
+        return inputBox("Folder:", title, start);
     }
     // Shows a screen modally and returns when it is closed.
     virtual void showForm(Form& form) = 0;

@@ -94,11 +94,10 @@ std::optional<std::string> QtDialogs::inputBox(const std::string& prompt, const 
     return s(dlg.textValue());
 }
 
-std::optional<std::filesystem::path> QtDialogs::chooseFolder(const std::string& title,
-                                                             const std::filesystem::path& start) {
-    const QString folder = QFileDialog::getExistingDirectory(activeParent(), q(title), q(start.string()));
-    if (folder.isEmpty()) return std::nullopt;
-    return std::filesystem::path(s(folder));
+std::optional<std::string> QtDialogs::folderBox(const std::string& title, const std::string& start) {
+    QString dir = QFileDialog::getExistingDirectory(activeParent(), q(title), q(start));
+    if (dir.isEmpty()) return std::nullopt;
+    return s(dir);
 }
 
 void QtDialogs::showForm(core::Form& form) {

@@ -19,14 +19,6 @@ inline const char* const kPKO = "60102010260000123456789012";
 inline const char* const kBPH = "43106012345678901234567890";
 inline const char* const kBS = "20860200010000000000001234";
 
-// The dialogs with the folder the operator picks.
-struct Dialogi : testing_support::ScriptedDialogs {
-    std::optional<std::filesystem::path> folder;
-    std::optional<std::filesystem::path> chooseFolder(const std::string&, const std::filesystem::path&) override {
-        return folder;
-    }
-};
-
 inline core::Record karta(const std::string& nazwisko, double naRor, double zasilki, const std::string& konto) {
     core::Record r(K::schema());
     for (auto [n, t] : {std::pair{K::Poczatek, "<Poczatek>"}, {K::Imie, "JAN"}, {K::Kod, "32-400"},
@@ -54,7 +46,7 @@ inline core::Record dodatek(const std::string& nazwisko, std::vector<std::pair<i
 struct Dane {
     testing_support::TempDir dir;
     core::Session s;
-    Dialogi ui;
+    testing_support::ScriptedDialogs ui;
     Dane() {
         testing_support::copyTree(PENSJA_DEMO, dir.path());
         s.WorkDir = dir.path();

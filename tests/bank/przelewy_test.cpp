@@ -153,7 +153,7 @@ TEST(Diskette, ListingInTheChosenFolderRemembered) {
     // The file keeps a float in 7 digits: 1234567.5 is read back as 1234568.
     Ror::writeAll(Ror::path(d.s, "A"), {przelew("A", 1234.5f, kBS), przelew("B", 1234567.5f, kBS)});
     testing_support::TempDir folder;
-    d.ui.folder = folder.path();
+    d.ui.type(folder.path().string());
     auto plik = bank::CmdNaDyskietke(d.s, d.ui, "A", "8602", "");
     ASSERT_TRUE(plik);
     EXPECT_EQ(*plik, folder.path() / "zawwD101.txt");
