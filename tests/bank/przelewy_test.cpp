@@ -170,7 +170,8 @@ TEST(Print, TwoPagesWithTheCarryOverLine) {
     std::vector<core::Record> recs;
     for (int i = 1; i <= 33; ++i) recs.push_back(przelew("NAZWISKO" + std::to_string(100 + i), 100.0f + i, kPKO));
     bank::drukujRor(d.s, d.ui, recs);
-    const fs::path wzorzec = fs::path(__FILE__).parent_path() / "data" / "ror_33.txt";
+    // From the demo's absolute path: a compiler cache may make __FILE__ relative.
+    const fs::path wzorzec = fs::path(PENSJA_DEMO).parent_path() / "tests" / "bank" / "data" / "ror_33.txt";
     EXPECT_EQ(d.ui.paper.text(), testing_support::readBytes(wzorzec)) << "wzorzec " << wzorzec;
     EXPECT_EQ(d.ui.paper.pages().size(), 2u);
     EXPECT_EQ(d.ui.paper.pages()[0][0].font, "Courier New");
