@@ -1,5 +1,6 @@
 #include "gui/routes.h"
 
+#include "bank/screens.h"
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
@@ -18,6 +19,7 @@ void registerAllScreens(core::Screens& screens) {
     printing::registerScreens(screens);
     trips::registerScreens(screens);
     tax::registerScreens(screens);
+    bank::registerScreens(screens);
 }
 
 }  // namespace gui
