@@ -114,13 +114,6 @@ Dodatek trzynastka(const core::Stawki& st, const Record& r) {
     return {a, b, static_cast<double>(h.h1) + h.h2, 0.0f};
 }
 
-// The group (column 3) of the session's current list in the catalogue.
-std::string grupaBiezacejListy(const core::Session& s, const std::vector<Record>& katalog) {
-    int i = reference::Instal::findByStem(katalog, s.NazwaZbioru);
-    if (i >= 0) return katalog[i].s(reference::Instal::Grupa);
-    return s.Grupa;
-}
-
 // The values the collection carries from one ledger record to the next.
 struct Biezace {
     int lp = 0;
@@ -232,6 +225,13 @@ Klucz kluczRcp(const Record& r) {
 
 }  // namespace
 
+std::string grupaBiezacejListy(const core::Session& s) {
+    const std::vector<Record> katalog = reference::Instal::read(s);
+    int i = reference::Instal::findByStem(katalog, s.NazwaZbioru);
+    if (i >= 0) return katalog[static_cast<std::size_t>(i)].s(reference::Instal::Grupa);
+    return s.Grupa;
+}
+
 std::vector<std::string> listyDoPolaczenia(const core::Session& s, const std::string& zestawy) {
     std::vector<std::string> listy;
     for (const Record& w : reference::Instal::read(s)) {
@@ -245,8 +245,7 @@ std::vector<std::string> listyDoPolaczenia(const core::Session& s, const std::st
 }
 
 std::vector<Record> zbierzRekordy(const core::Session& s, const Polaczenie& p, const paycalc::Postep& postep) {
-    const std::vector<Record> katalog = reference::Instal::read(s);
-    const bool grupaN = grupaBiezacejListy(s, katalog) == "n";
+    const bool grupaN = grupaBiezacejListy(s) == "n";
     const std::string RRmm = s.RRmm();
     std::vector<Record> wynik;
     Biezace b;

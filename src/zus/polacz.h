@@ -22,6 +22,10 @@ struct Polaczenie {
 // set column is always found.
 std::vector<std::string> listyDoPolaczenia(const core::Session& s, const std::string& zestawy);
 
+// The group (column 3 of instal.dat) of the session's current list; the session's own group
+// when the list is not in the catalogue.
+std::string grupaBiezacejListy(const core::Session& s);
+
 // The raw records: one per ledger record of the chosen lists, with the month's supplementary
 // pay of the person added. The rates must be in the session (reference::loadRates).
 std::vector<core::Record> zbierzRekordy(const core::Session& s, const Polaczenie& p,
