@@ -114,8 +114,11 @@ void zmienRekordy(std::vector<Record>& rcp, const std::vector<std::vector<std::s
         for (int k = 0; k < kKolumnyRCP; ++k) {
             int pole = poleKolumny(k);
             if (pole == 0) continue;
-            if (pole == Rcp::PESEL && !polskie) pole = Rcp::InnyIdentyfikator;
             const std::string& tekst = wiersze[i][static_cast<std::size_t>(k)];
+            if (pole == Rcp::PESEL) {
+                if (tekst == Rcp::identyfikator(r)) continue;  // shown padded for a foreigner
+                if (!polskie) pole = Rcp::InnyIdentyfikator;
+            }
             if (Rcp::schema().fields[pole - 1].type == core::FieldType::Float) {
                 const double nowa = core::toDoubleOrZero(core::KropkaZamiastPrzecinka(std::string(tekst)),
                                                          "frmRCP, wiersz " + std::to_string(i + 1));
