@@ -124,8 +124,9 @@ void RCPScreen::pokaz() {
     MSFlexGrid1.ColWidth.clear();
     for (int k = 0; k < kKolumnyRCP; ++k) {
         MSFlexGrid1.TextMatrix(0, k) = kNaglowkiRCP[k];
-        MSFlexGrid1.ColWidth.push_back(kSzerokosciRCP[k] / 120);  // twips to characters
+        MSFlexGrid1.ColWidth.push_back(kSzerokosciRCP[k] / 100);  // twips to characters
     }
+    MSFlexGrid1.ColWidth[0] = 6;  // room for "Razem"
     for (std::size_t r = 0; r < tabela.size(); ++r)
         for (int k = 0; k < kKolumnyRCP; ++k) MSFlexGrid1.TextMatrix(static_cast<int>(r) + 1, k) = tabela[r][k];
     MSFlexGrid1.RowColor.assign(static_cast<std::size_t>(MSFlexGrid1.Rows), -1);
