@@ -153,3 +153,53 @@ TEST(PlikKEDU, DrugiPrzebiegZastepujePlikBladZostawiaPoprzedni) {
 }
 
 }  // namespace
+
+namespace {
+
+// The 28 values of the n-th row of a block (<DDORCA>, <DDORSA>) of the file.
+std::vector<std::string> wiersz(const std::vector<std::string>& linie, const std::string& blok, int n) {
+    for (std::size_t i = 0; i < linie.size(); ++i)
+        if (linie[i] == blok && n-- == 0) {
+            std::vector<std::string> w;
+            for (std::size_t j = i + 1; j < linie.size() && linie[j] != "</" + blok.substr(1); ++j) w.push_back(linie[j]);
+            return w;
+        }
+    return {};
+}
+
+TEST(PlikKEDU, Kod124100ObnizenieIWlascicielWRSA) {
+    zfx::Platnik p;
+    p.katalog({{"n", "n", "A"}});
+    p.s.NazwaZbioru = "n";
+    p.rcp({zfx::rcp("Emeryt", "Jan", "50010112345", "124100",
+                    {{R::PodstZUS, 1000}, {R::PodstZdro, 900}, {R::SklZdro, 81}, {R::ZasilekWychowawczy, 500}}),
+           zfx::rcp("Chory", "Adam", "60010112345", "011000",
+                    {{R::PodstZUS, 100}, {R::KwotaObnizenia, 90}, {R::Dni1, 3}, {R::Deklarowana1, 70}},
+                    {{R::KodPrzerwy1, "313"}, {R::Od1, "04012021"}, {R::Do1, "06012021"}}),
+           zfx::rcp("Wlasciciel", "Ewa", "70010112345", "051000", {{R::Dni1, 2}, {R::Deklarowana1, 50}},
+                    {{R::KodPrzerwy1, "313"}})});
+    ASSERT_TRUE(zus::cmdWykonajRCA(p.s, p.ui, {"A", "15"}));
+    const auto linie = testing_support::readLines(zus::plikRozliczenia(p.s, "A"));
+    // 124100: the benefit base 2800 of the year; no second-title row for field 21.
+    const auto e = wiersz(linie, "<DDORCA>", 0);
+    ASSERT_EQ(e.size(), 28u);
+    const std::vector<std::string> kwoty(e.begin() + 7, e.begin() + 19);
+    // 2 * 9.76 % * 2800 = 546.56; 1.5 % and 6.5 % of 2800; the employer's pension half stays of
+    // field 8 (97.60); 546.56 + 42 + 97.60 + 182 = 868.16
+    EXPECT_EQ(kwoty, (std::vector<std::string>{"00280000", "00100000", "00090000", "0054656", "0004200", "0000000",
+                                               "0000000", "0009760", "0018200", "0000000", "0000000", "00086816"}));
+    EXPECT_EQ(wiersz(linie, "<DDORCA>", 1).at(0), "CHORY                          ");
+    // The absence row, then "350" for the reduction (a list of group "n"), then the owner's row
+    // with days "0" and no amount.
+    const std::vector<std::vector<std::string>> rsa = {wiersz(linie, "<DDORSA>", 0), wiersz(linie, "<DDORSA>", 1),
+                                                       wiersz(linie, "<DDORSA>", 2)};
+    EXPECT_EQ(std::vector<std::string>(rsa[0].begin() + 5, rsa[0].begin() + 11),
+              (std::vector<std::string>{"313", "0401", "0601", "3 ", "  ", "0007000"}));
+    EXPECT_EQ(std::vector<std::string>(rsa[1].begin() + 5, rsa[1].begin() + 11),
+              (std::vector<std::string>{"350", "    ", "    ", "  ", "  ", "0000000"}));
+    EXPECT_EQ(rsa[2].at(0), "WLASCICIEL                     ");
+    EXPECT_EQ(std::vector<std::string>(rsa[2].begin() + 5, rsa[2].begin() + 11),
+              (std::vector<std::string>{"313", "    ", "    ", "0 ", "  ", "0000000"}));
+}
+
+}  // namespace
