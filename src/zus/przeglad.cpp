@@ -135,15 +135,21 @@ void zapiszRCP(const core::Session& s, const std::vector<Record>& rcp) {
     Rcp::writeAll(plik, rcp, plik.stem().string() + ".tym");
 }
 
+// Persons on one page of the printed list (two lines each).
+constexpr std::size_t kOsobNaStronie = 30;
+
 void drukujRCA(core::Printer& p, const std::vector<std::vector<std::string>>& tabela) {
     const std::string gora = "|===|====================================|===========|==========|==========|==========|===========|==========|";
     const std::string kreska = "|---|------------------------------------|-----------|----------|----------|----------|-----------|----------|";
-    p.setFont("Courier New", 10, true);
-    p.print("  Zestawienie podstaw i składek do ZUS");
-    p.setFont("Courier New", 8, false);
-    p.print(gora);
-    p.print("|Lp.| Nazwisko i imie                    |Postawa ZUS|Skł.Emeryt|Skł.Rentow|Skł.Chorob|PodstawaZdr|Skł.Zdrowo|");
-    p.print(gora);
+    auto naglowek = [&] {
+        p.setFont("Courier New", 10, true);
+        p.print("  Zestawienie podstaw i składek do ZUS");
+        p.setFont("Courier New", 8, false);
+        p.print(gora);
+        p.print("|Lp.| Nazwisko i imie                    |Postawa ZUS|Skł.Emeryt|Skł.Rentow|Skł.Chorob|PodstawaZdr|Skł.Zdrowo|");
+        p.print(gora);
+    };
+    naglowek();
     auto kwoty = [](const std::vector<std::string>& w) {
         return core::PadLeft(w[kPodst], 11) + "|" + core::PadLeft(w[kEmer], 10) + "|" + core::PadLeft(w[kRent], 10) +
                "|" + core::PadLeft(w[kChor], 10) + "|" + core::PadLeft(w[kPodstZdr], 11) + "|" +
@@ -154,6 +160,10 @@ void drukujRCA(core::Printer& p, const std::vector<std::vector<std::string>>& ta
         p.print("|" + core::PadLeft(core::Trim(w[kLp]), 3) + "| " + core::PadRight(w[kNazwisko] + " " + w[kImie], 35) +
                 "|" + kwoty(w));
         p.print(kreska);
+        if ((i + 1) % kOsobNaStronie == 0 && i + 2 < tabela.size()) {
+            p.newPage();
+            naglowek();
+        }
     }
     if (!tabela.empty()) p.print("|   | Razem                              |" + kwoty(tabela.back()));
     p.print(gora);

@@ -103,4 +103,16 @@ TEST(PrzegladRCP, Wydruk) {
     EXPECT_EQ(linie, oczekiwane);
 }
 
+TEST(PrzegladRCP, WydrukStronami) {
+    zfx::Platnik p;
+    // 30 persons fill a page; the 31st starts the second with the heading again.
+    for (const auto& [osob, stron] : {std::pair{30, 1u}, std::pair{31, 2u}}) {
+        core::TextPrinter druk;
+        zus::drukujRCA(druk, zus::tabelaRCP(p.s, std::vector<Record>(osob, dwieOsoby()[0])));
+        const auto strony = druk.pages();
+        ASSERT_EQ(strony.size(), stron) << osob;
+        EXPECT_EQ(strony.back().front().text, "  Zestawienie podstaw i składek do ZUS");
+    }
+}
+
 }  // namespace
