@@ -46,6 +46,7 @@ int polacz(cli::Context& c) {
     c.openSession();
     const std::string zestawy = opcja(c, "--sets", zus::zapisaneZestawy(c.session));
     bezArgumentow(c, "zus-merge");
+    if (!zus::zlyZestaw(zestawy).empty()) throw cli::Usage(zus::zlyZestaw(zestawy));
     if (!zus::cmdPolacz(c.session, c.dialogs, {zestawy, trzynastka})) {
         std::cerr << "pensja-cli: zbiór RCP nie został wykonany\n";
         return 1;
@@ -62,6 +63,7 @@ int kedu(cli::Context& c) {
                                                       ? c.session.Firma.s(reference::Firma::TerminPlatnosciZUSM)
                                                       : std::string());
     bezArgumentow(c, "kedu");
+    if (!zus::zlyZestaw(zestawy).empty()) throw cli::Usage(zus::zlyZestaw(zestawy));
     const auto wynik = zus::cmdWykonajRCA(c.session, c.dialogs, {zestawy, termin});
     if (!wynik) return 1;
     std::cout << wynik->plik.string() << "\n";

@@ -11,6 +11,7 @@
 #include "paycalc/karta_record.h"
 #include "personnel/person_record.h"
 #include "reference/catalogue.h"
+#include "reference/names.h"
 #include "reference/rates.h"
 #include "zus/rcp_record.h"
 
@@ -342,6 +343,11 @@ bool cmdPolacz(core::Session& s, core::Dialogs& ui, const Polaczenie& p, const p
         return false;
     }
     return true;
+}
+
+std::string zlyZestaw(const std::string& zestawy) {
+    if (zestawy.empty()) return {};
+    return reference::badName(zestawy, "Zestaw list");
 }
 
 void cmdZachowaj(const core::Session& s, const std::string& zestawy) {

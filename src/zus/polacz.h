@@ -42,6 +42,10 @@ std::vector<core::Record> scalRekordy(std::vector<core::Record> tym, const payca
 // file was written; every failure is shown in its box and leaves the month's files whole.
 bool cmdPolacz(core::Session& s, core::Dialogs& ui, const Polaczenie& p, const paycalc::Postep& postep = {});
 
+// Why the typed set letters cannot be used (they name the KEDU file and are kept in instal.dat),
+// or "" when they can; empty letters can.
+std::string zlyZestaw(const std::string& zestawy);
+
 // cmdZachowaj: the letters, upper-cased, into the ninth column of every row of instal.dat.
 void cmdZachowaj(const core::Session& s, const std::string& zestawy);
 // The letters kept in the ninth column of the catalogue's first row ("" without a row).

@@ -1,5 +1,6 @@
 #include "zus/przeglad.h"
 
+#include "core/error.h"
 #include "core/numbers.h"
 #include "core/text.h"
 #include "personnel/person_record.h"
@@ -52,6 +53,21 @@ int poleKolumny(int k) {
     case kKwZP: return Rcp::KwotaZP;
     default: return 0;
     }
+}
+
+std::string zlaWartosc(int kolumna, const std::string& tekst) {
+    const int pole = poleKolumny(kolumna);
+    if (pole == 0) return "Tej kolumny nie zapisuje się w zbiorze: jest wyliczana.";
+    if (tekst.find('"') != std::string::npos) return "Wartość nie może zawierać cudzysłowu (\").";
+    try {
+        core::toCp1250(tekst);
+    } catch (const core::Error&) {
+        return "Wartość zawiera znak, którego nie można zapisać w plikach programu (strona kodowa 1250).";
+    }
+    if (Rcp::schema().fields[pole - 1].type == core::FieldType::Float && !core::Trim(tekst).empty() &&
+        !core::isNumeric(core::KropkaZamiastPrzecinka(std::string(tekst))))
+        return "Wpisz liczbę, np. 1234.56.";
+    return {};
 }
 
 std::vector<std::vector<std::string>> tabelaRCP(const core::Session& s, const std::vector<Record>& rcp) {

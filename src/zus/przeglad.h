@@ -24,6 +24,10 @@ int poleKolumny(int kolumna);
 // rates must be in the session.
 std::vector<std::vector<std::string>> tabelaRCP(const core::Session& s, const std::vector<core::Record>& rcp);
 
+// Why a typed value cannot go into a column's field (a quote, a character the file cannot hold,
+// text in a number), or "" when it can.
+std::string zlaWartosc(int kolumna, const std::string& tekst);
+
 // The rows (without the heading and without "Razem") put back into the records: only the
 // columns that show a field of the file change it.
 void zmienRekordy(std::vector<core::Record>& rcp, const std::vector<std::vector<std::string>>& wiersze);

@@ -66,11 +66,20 @@ paycalc::Postep DoZUSScreen::postep() {
     return p;
 }
 
+bool DoZUSScreen::zestawDobry() {
+    const std::string blad = zlyZestaw(txtZestawZUS.Text);
+    if (blad.empty()) return true;
+    core::MsgBox(ui, blad + " Wpisz same litery zestawów, np. AB.", "Zestawy list", core::Icon::Exclamation);
+    SetFocus(txtZestawZUS);
+    return false;
+}
+
 void DoZUSScreen::cmdZachowaj() {
-    zus::cmdZachowaj(s, txtZestawZUS.Text);
+    if (zestawDobry()) zus::cmdZachowaj(s, txtZestawZUS.Text);
 }
 
 void DoZUSScreen::CmdPolacz() {
+    if (!zestawDobry()) return;
     CmdPodgladRCP_.Enabled = false;
     ProgressBar1.Visible = true;
     ProgressBar1.Value = 0;
@@ -84,6 +93,7 @@ void DoZUSScreen::CmdPolacz() {
 void DoZUSScreen::CmdPodgladRCP() { ui.open("frmRCP", s); }
 
 void DoZUSScreen::CmdWykonajRCA() {
+    if (!zestawDobry()) return;
     const auto wynik = cmdWykonajRCA(s, ui, {txtZestawZUS.Text, txtTerminPlatnosci.Text});
     if (!wynik) return;
     Label9.Caption = wynik->Label9;
@@ -141,6 +151,11 @@ void RCPScreen::MSFlexGrid1_Click() {
                                       std::to_string(r) + " wartość zmieniana = " + komorka,
                                   "Zmiana nazwy towaru!", komorka);
     if (!nowa) return;
+    const std::string blad = zlaWartosc(k, *nowa);
+    if (!blad.empty()) {
+        core::MsgBox(ui, blad + " Wartości nie zmieniono.", "Zmiana nazwy towaru!", core::Icon::Exclamation);
+        return;
+    }
     std::vector<std::vector<std::string>> wiersze;
     for (int i = 1; i <= static_cast<int>(rekordy_.size()); ++i) {
         std::vector<std::string> w;

@@ -40,6 +40,8 @@ public:
 
 private:
     paycalc::Postep postep();
+    // The set letters checked; a box and false when they cannot be used.
+    bool zestawDobry();
 };
 
 class RCPScreen : public core::Form {

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "fixture.h"
 #include "support/tempdir.h"
+#include "zus/polacz.h"
 #include "zus/przeglad.h"
 #include "zus/rcp_record.h"
 #include "zus/screens.h"
@@ -113,6 +114,22 @@ TEST(PrzegladRCP, WydrukStronami) {
         ASSERT_EQ(strony.size(), stron) << osob;
         EXPECT_EQ(strony.back().front().text, "  Zestawienie podstaw i składek do ZUS");
     }
+}
+
+TEST(PrzegladRCP, WartosciKtorychPlikNiePomiesci) {
+    struct {
+        const char* nazwa;
+        int kolumna;
+        const char* tekst;
+        bool dobra;
+    } const przypadki[] = {
+        {"nazwisko", 1, "Nowak-Kowalska", true},   {"cudzysłów", 1, "No\"wak", false},
+        {"poza stroną 1250", 1, "Nowak\u0416", false}, {"liczba z przecinkiem", 5, "1234,5", true},
+        {"tekst w liczbie", 5, "12a", false},       {"kolumna wyliczana", 6, "100", false},
+    };
+    for (const auto& c : przypadki) EXPECT_EQ(zus::zlaWartosc(c.kolumna, c.tekst).empty(), c.dobra) << c.nazwa;
+    for (const auto& [zestaw, dobry] : {std::pair{"AB", true}, {"", true}, {"A/B", false}, {"A\"", false}})
+        EXPECT_EQ(zus::zlyZestaw(zestaw).empty(), dobry) << zestaw;
 }
 
 }  // namespace
