@@ -70,22 +70,17 @@ TEST(Polaczenie, ListyZestawuISumowanieJednejOsoby) {
     }
 }
 
-TEST(Polaczenie, BezWybranejListyPustyZbior) {
+TEST(Polaczenie, BezWybranejListyPustyZbiorAnulowaneNic) {
     zfx::Platnik p;
     p.katalog({{"a", "a", "A"}});
     p.karta("a", {zfx::karta("Nowak", "Jan", "80010112345", "011000", 1000)});
-    ASSERT_TRUE(polacz(p, "X"));
-    EXPECT_EQ(testing_support::readBytes(R::path(p.s)), "");
-}
-
-TEST(Polaczenie, PytanieAnulowaneNicNieZmienia) {
-    zfx::Platnik p;
-    p.katalog({{"a", "a", "A"}});
     p.ui.answer(core::Answer::Cancel);
     EXPECT_FALSE(polacz(p, "A"));
     EXPECT_FALSE(std::filesystem::exists(R::path(p.s)));
     EXPECT_EQ(p.ui.last(), "[Wykonuję sumowanie z list za miesiąc 31-01-2021] Czy chcesz wykonać zbiór sumujący  na ten "
                            "miesiąc ? OK Założyc");
+    ASSERT_TRUE(polacz(p, "X"));
+    EXPECT_EQ(testing_support::readBytes(R::path(p.s)), "");
 }
 
 // Every field of a collected record: the ledger's values with overtime, four additions under
