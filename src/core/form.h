@@ -70,6 +70,10 @@ public:
     int LayoutRow = -1, LayoutSlot = 0, LayoutSpan = 1, LayoutRowSpan = 1;
     int Width = 0;
     bool Mono = false;
+    // Colours as the classic controls hold them (0xBBGGRR), -1 for the default: the back colour
+    // of a label, and the back colour of each row of a grid (by row number).
+    long BackColor = -1;
+    std::vector<long> RowColor;
     bool MultiLine = false;
     bool Password = false;
     std::string Parent;  // menus: the name of the drop-down holding this entry

@@ -8,6 +8,7 @@
 #include "reference/screens.h"
 #include "trips/screens.h"
 #include "tax/screens.h"
+#include "zus/screens.h"
 
 namespace gui {
 
@@ -20,6 +21,7 @@ void registerAllScreens(core::Screens& screens) {
     trips::registerScreens(screens);
     tax::registerScreens(screens);
     bank::registerScreens(screens);
+    zus::registerScreens(screens);
 }
 
 }  // namespace gui

@@ -122,6 +122,7 @@ TEST(PayerRegister, NewPayerGetsItsTreeAndTheTemplate) {
 
 TEST(PayerRegister, NewPayerWithoutTemplateInTheDataFolder) {
     Demo d;
+    fs::remove(d.dir / "dane" / "wzorc.kdu");  // the demo data ship one
     ScriptedDialogs ui;
     ui.type(std::string("BEZWZORU"));
     reference::MojaFirmaScreen f(ui, d.s);
