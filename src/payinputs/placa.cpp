@@ -380,7 +380,7 @@ void PlacaScreen::cmdWpiszDane() {
         lbBrakDanych.Visible = false;
         if (!dopasowany && s.NowyZapis == "N") Load();
     } catch (const core::Error& e) {
-        ui.msgBox(core::errorReport(e, core::ReportWords::Linii), Buttons::OK, Icon::Critical);
+        showError(e, core::ReportWords::Linii);
     }
     odswiezProgi();
 }
@@ -397,7 +397,7 @@ void PlacaScreen::cmdZapiszZmiany() {
             "TYMCZ.dta", "<koniec>");
         ui.msgBox("Zmiany wykonane !", Buttons::OK, Icon::Information, "zmiany)");
     } catch (const core::Error& e) {
-        ui.msgBox(core::errorReport(e, core::ReportWords::NrLini), Buttons::OK, Icon::Critical);
+        showError(e, core::ReportWords::NrLini);
     }
     odswiezProgi();
 }

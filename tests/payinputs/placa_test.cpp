@@ -352,3 +352,29 @@ TEST(Placa, MissingPayFileIsMadeByTheFirstRecord) {
     EXPECT_EQ(r[0].i(Pay::Numer), 1);
     EXPECT_EQ(r[0].s(Pay::Grupa), "a");
 }
+
+TEST(Placa, DoubleQuoteIsRefusedWithTheFileWhole) {
+    struct {
+        const char* what;
+        int field;
+        bool newRecord;
+        std::string box;
+    } cases[] = {
+        {"account, changes", Pay::NumerKontaROR, false, "Nr konta ROR"},
+        {"end of employment, record made again", Pay::DataZatrudnieniaDO, true, "Data zatrudnienia Do"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        DemoList d;
+        d.wybierz(2);
+        const std::string before = readBytes(d.dta());
+        ScriptedDialogs ui;
+        PlacaScreen f(ui, d.s);
+        f.Load();
+        f.txt(c.field).Text = "12 \"34\" 56";
+        c.newRecord ? f.cmdWpiszDane() : f.cmdZapiszZmiany();
+        EXPECT_EQ(ui.last(), "[Błędne dane] Pole \"" + c.box + "\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.");
+        EXPECT_EQ(f.FocusTo, f.txt(c.field).Name);
+        EXPECT_EQ(readBytes(d.dta()), before);
+    }
+}
