@@ -501,3 +501,27 @@ TEST(Osoba1, DoubleQuoteIsRefusedByEveryWriterOfThePersonFile) {
         EXPECT_EQ(readBytes(d.per()), before);
     }
 }
+
+TEST(Osoba1, NewPersonModeEmptiesEveryOtherBox) {
+    DemoList d;
+    d.wybierz(0);  // the boxes of a person shown before must not stay
+    d.s.Grupa = "n";
+    d.nowa();
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    for (const core::Control* c : f.controls()) {
+        if (c->kind != core::Kind::TextBox) continue;
+        const std::string n = c->Name;
+        if (n == "txtNazwisko" || n == "txtImie" || n == "txtPesel" || n == "txtKodUbezpieczenia" || n == "txtNumerIP")
+            continue;
+        EXPECT_EQ(c->Text, "") << n;
+    }
+    // So the citizenship is asked for on adding.
+    f.txtNazwisko.Text = "Nowicki";
+    f.txtImie.Text = "Adam";
+    f.txtPesel.Text = "92010112345";
+    f.cmdZapiszNowaOsobe();
+    EXPECT_EQ(ui.lines(), lines({"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany", "[Błąd] Ustal Obywatelstwo",
+                                 "[Dopisany] Rekord zostal dopisany "}));
+}
