@@ -315,8 +315,10 @@ void PlacaScreen::przepisz(core::Record& r) {
     const float wskaznik = licznik != 0 && mianownik != 0 ? static_cast<float>(licznik / mianownik)
                                                           : static_cast<float>(core::Val(txt(Pay::WskaznikEtatu).Text));
     if (r.f(Pay::WskaznikEtatu) != wskaznik || r.isEmpty(Pay::WskaznikEtatu)) r.set(Pay::WskaznikEtatu, wskaznik);
-    // 3. A record without a date of hire gets the seniority allowance from the new date.
-    if (bezDaty && !Option2.Value) {
+    // 3. A record without a date of hire gets the seniority allowance from the new date, unless
+    // the record itself says the allowance is fixed (the options reach the record in step 4).
+    const std::string staly = r.s(Pay::DodatekStazowy);
+    if (bezDaty && (staly.empty() || staly == "0")) {
         Staz st = obliczStaz(r.s(Pay::DataZatrudnienia), s.DataListy, grupa(), s.SkrotPlatnika);
         float stazowy = core::Round2(static_cast<double>(r.f(Pay::Zasadnicza)) * st.stazProcent / 100);
         r.set(Pay::Stazowy, stazowy);

@@ -275,18 +275,24 @@ TEST(Placa, SeniorityForARecordWithoutDateOfHire) {
     struct {
         const char *data, *grupa, *dodatek;
         const char* stazowy;
+        const char* wRekordzie = "";  // the record's flag before the save
     } cases[] = {
         {"01-01-2010", "a", "", "440"},   // 11 years of 4000
         {"15-01-2010", "a", "", "400"},   // hired later in the list month: 10 years
         {"01-02-2018", "a", "", "0"},     // 2 years: below 5
         {"01-02-2017", "n", "", "120"},   // a teacher from 3 years: 3 percent
         {"01-01-1990", "a", "", "800"},   // 31 years: 20 percent
-        {"01-01-2010", "a", "1", "123"},  // a fixed allowance is not computed
+        {"01-01-2010", "a", "1", "123", "1"},  // a fixed allowance is not computed
+        // The decision reads the flag the record had; the option reaches it afterwards.
+        {"01-01-2010", "a", "", "123", "1"},
+        {"01-01-2010", "a", "1", "440", ""},
+        {"01-01-2010", "a", "1", "440", "0"},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.data) + " " + c.grupa + " " + c.dodatek);
+        SCOPED_TRACE(std::string(c.data) + " " + c.grupa + " " + c.dodatek + " " + c.wRekordzie);
         DemoList d;
         auto recs = Pay::readAll(d.dta());
+        recs[0].set(Pay::DodatekStazowy, c.wRekordzie);
         recs[0].set(Pay::DataZatrudnienia, "");
         recs[0].set(Pay::Zasadnicza, 4000.0f);
         recs[0].set(Pay::Stazowy, 123.0f);
