@@ -4,6 +4,8 @@
 #include "core/error.h"
 #include "core/record.h"
 #include "core/seqfile.h"
+#include "core/ustaldate.h"
+#include "support/scripted.h"
 
 using namespace core;
 
@@ -49,4 +51,35 @@ TEST(Refusals, DoubleQuoteInAQuotedItemNamesItsField) {
     SeqWriter w;
     writeRecord(w, r);
     EXPECT_EQ(w.text(), "\"\"\r\n\r\n\"Firma \"Róża\", s.c.\"\r\n0\r\n");
+}
+
+TEST(UstalDate, FourDigitsWithAMonthOrTheQuestionAgain) {
+    struct {
+        const char* what;
+        std::vector<std::optional<std::string>> typed;
+        std::optional<std::string> result;
+        int refusals;
+    } cases[] = {
+        {"the month offered", {std::string("2101")}, "2101", 0},
+        {"month 12", {std::string("2012")}, "2012", 0},
+        {"month 13, then 00, then 01",
+         {std::string("2113"), std::string("2100"), std::string("2001")}, "2001", 2},
+        {"three digits, a letter, five digits",
+         {std::string("210"), std::string("21a1"), std::string("21011"), std::string("0912")}, "0912", 3},
+        {"cancelled after a wrong one", {std::string("1"), std::nullopt}, std::nullopt, 1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        testing_support::ScriptedDialogs ui;
+        for (const auto& t : c.typed) ui.type(t);
+        EXPECT_EQ(modUstalDate(ui, "2101"), c.result);
+        ASSERT_FALSE(ui.boxes.empty());
+        EXPECT_EQ(ui.boxes[0].title, " Wprowadź date listy  ");
+        EXPECT_EQ(ui.boxes[0].text, "Ok = Aktualna data 2101 Podaj date w formacie RRMM ");
+        EXPECT_EQ(ui.boxes[0].def, "2101");
+        int refusals = 0;
+        for (const auto& b : ui.boxes) refusals += b.text == "Zle wpisana data!";
+        EXPECT_EQ(refusals, c.refusals);
+        EXPECT_EQ(ui.boxes.size(), c.typed.size() + c.refusals);
+    }
 }
