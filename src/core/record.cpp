@@ -88,6 +88,8 @@ void Record::set(int n, float v) {
     case FieldType::Int16:
     case FieldType::Long: set(n, std::lround(v)); break;
     case FieldType::Float:
+        it = Item::bare(numText(CSng(v, std::string(schema_->name) + ", pole " + std::to_string(n) + " " + fieldName(n))));
+        break;
     case FieldType::Variant: it = Item::bare(numText(v)); break;
     case FieldType::Blank: break;
     }
@@ -100,7 +102,9 @@ void Record::set(int n, double v) {
     switch (t) {
     case FieldType::String:
     case FieldType::Line: it = Item::quoted(numText(v)); break;
-    case FieldType::Float: it = Item::bare(numText(static_cast<float>(v))); break;
+    case FieldType::Float:
+        it = Item::bare(numText(CSng(v, std::string(schema_->name) + ", pole " + std::to_string(n) + " " + fieldName(n))));
+        break;
     case FieldType::Int16:
     case FieldType::Long: set(n, std::lround(v)); break;
     case FieldType::Double:

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/error.h"
+#include "core/numbers.h"
 #include "core/record.h"
 #include "core/seqfile.h"
 #include "core/ustaldate.h"
@@ -81,5 +82,31 @@ TEST(UstalDate, FourDigitsWithAMonthOrTheQuestionAgain) {
         for (const auto& b : ui.boxes) refusals += b.text == "Zle wpisana data!";
         EXPECT_EQ(refusals, c.refusals);
         EXPECT_EQ(ui.boxes.size(), c.typed.size() + c.refusals);
+    }
+}
+
+TEST(Refusals, StoreBeyondAFloatIsAnOverflow) {
+    struct {
+        const char* what;
+        std::function<float()> store;
+        bool overflow;
+    } cases[] = {
+        {"largest float", [] { return CSng(3.4028234e38); }, false},
+        {"past it", [] { return CSng(3.41e38); }, true},
+        {"negative past it", [] { return CSng(-6e38); }, true},
+        {"Round2 of a sum of two", [] { return Round2(3e38 + 3e38); }, true},
+        {"RoundZl", [] { return RoundZl(1e39); }, true},
+        {"Float field", [] { Record(kPlik).set(4, 1e39); return 0.0f; }, true},
+        {"Float field from text", [] { Record(kPlik).set(4, std::string("7e38")); return 0.0f; }, true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        try {
+            c.store();
+            EXPECT_FALSE(c.overflow);
+        } catch (const Error& e) {
+            EXPECT_TRUE(c.overflow);
+            EXPECT_EQ(e.Number, err::Overflow);
+        }
     }
 }
