@@ -229,6 +229,13 @@ TEST(Password, ChangeWritesTheNewOneInClear) {
     EXPECT_EQ(d.s.HasloPodane, "Nowe1");
     // The other fields stay.
     EXPECT_EQ(core::Instalka::read(d.dir.path()).s(core::Instalka::DataListy), "31-01-2021");
+    // A double quote cannot stand in the file: refused, the file and the password as they were.
+    const std::string before = readBytes(d.instalka());
+    d.ui.type(std::string("Nowe1")).type(std::string("a\"b"));
+    place.Has_o();
+    EXPECT_EQ(d.ui.last(), "[Błędne dane] Pole \"Haslo\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.");
+    EXPECT_EQ(readBytes(d.instalka()), before);
+    EXPECT_EQ(d.s.Haslo, "Nowe1");
 }
 
 TEST(Password, ThreeTriesWithRetryAndOneWithoutIt) {
