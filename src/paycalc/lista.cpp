@@ -147,6 +147,7 @@ void ListaScreen::Load() {
     s.SciezkaOsob = s.payerPath({"person", s.NazwaZbioru + ".per"});
     lstlista.Clear();
     Tablica.clear();
+    Klucze.clear();
     int licznik = 0;
     for (const Record& o : Osoba::readAll(s.SciezkaOsob)) {
         ++licznik;
@@ -155,6 +156,7 @@ void ListaScreen::Load() {
             throw core::Error(core::err::SubscriptOutOfRange, "frmlista, Form_Load, osoba " + std::to_string(licznik),
                               "lista może mieć najwyżej " + std::to_string(kMaxOsob) + " osób");
         Tablica.push_back(line);
+        Klucze.push_back(personnel::kluczOsoby(o));
         lstlista.AddItem(line);
     }
     // 6.
@@ -181,7 +183,9 @@ void ListaScreen::lstlista_Click() {
     const WybranaOsoba o = osobaZWiersza(lstlista.selectedText());
     s.NazwiskoOsoby = o.Nazwisko;
     s.ImieOsoby = o.Imie;
-    s.KluczOsoby = o.Klucz;
+    // The line shows the key cut to its columns; the choice takes it whole.
+    const auto i = static_cast<std::size_t>(lstlista.ListIndex);
+    s.KluczOsoby = i < Klucze.size() ? Klucze[i] : o.Klucz;
     s.KodUbezpieczeniaOsoby = o.KodUbezpieczenia;
     s.NumerOsoby = o.Numer;
     s.Osoba = core::EkranOsoby{};

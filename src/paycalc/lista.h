@@ -74,6 +74,8 @@ public:
     static constexpr int kMaxOsob = 250;
     // The lines of the list, as the table of at most kMaxOsob entries keeps them.
     std::vector<std::string> Tablica;
+    // The whole key of each line: a foreigner's document may be longer than its columns.
+    std::vector<std::string> Klucze;
 
     core::Session& s;
 

@@ -131,6 +131,22 @@ TEST(Lista, LongSurnameIsCutOnTheLineAndInTheSession) {
     EXPECT_EQ(e.s.KluczOsoby, "75031412317");
 }
 
+TEST(Lista, LongDocumentIsCutOnTheLineButChosenWhole) {
+    Ekran e;
+    auto osoby = e.osoby();
+    osoby[0].set(Osoba::Obywatelstwo, "UKRAIŃSKIE");
+    osoby[0].set(Osoba::Paszport, "FP12345678901");
+    e.zapiszOsoby(osoby);
+    e.f.Load();
+    EXPECT_EQ(core::Mid(e.f.lstlista.List[0], 56, 12), "FP123456789 ");
+    e.wybierz(0);
+    EXPECT_EQ(e.s.KluczOsoby, "FP12345678901");
+    e.ui.answer(Answer::OK).answer(Answer::No);
+    e.kliknij("cmdUsuń");
+    ASSERT_EQ(e.osoby().size(), 6u);
+    EXPECT_EQ(e.osoby()[0].s(Osoba::Nazwisko), osoby[1].s(Osoba::Nazwisko));
+}
+
 TEST(Lista, MoreThan250PeopleRaiseTheBoundsError) {
     Ekran e;
     std::vector<core::Record> osoby;
