@@ -143,6 +143,10 @@ public:
     void fire(Control& c, std::function<void()> Control::*event);
     // Runs any piece of the screen's work in the same way.
     void guarded(const std::function<void()>& work);
+    // A command of the screen (a click, Enter, Form_Load): guarded, and holding the writer lock
+    // of ui.writerSession while it runs. When another program writes, a box names it and offers
+    // Retry; Cancel drops the command. fire() runs every event but Change and Tick this way.
+    void command(const std::function<void()>& work);
 
     Control* find(const std::string& name);
     const std::vector<Control*>& controls() const { return controls_; }

@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     gui::registerAllScreens(screens);
     gui::QtDialogs dialogs;
     dialogs.screens = &screens;
+    dialogs.writerSession = &session;
     reference::PlaceScreen place(dialogs, session);
     gui::MainWindow win(place);
     dialogs.setParent(&win);
