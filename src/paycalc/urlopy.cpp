@@ -154,7 +154,7 @@ UrlopMiesiaca modUrlop(core::Session& s) {
     UrlopMiesiaca u;
     fs::path file = Urlop::path(s, s.rok());
     if (core::fileExists(file)) {
-        int miesiac = static_cast<int>(core::Val(s.miesiac()));
+        int miesiac = core::ValInt(s.miesiac(), "miesiąc daty listy " + s.DataListy);
         u = urlopMiesiaca(Urlop::readAll(file), s.KluczOsoby, miesiac);
     }
     s.wynik.DniUrlopu = u.DniUrlopu;

@@ -112,6 +112,9 @@ std::string badPayerName(const std::string& skrot, const fs::path& katalog, cons
 }
 
 void choosePayer(core::Session& s, const core::Record& payer) {
+    // A short name from MojaFirma.txt that would lead out of the data folder: Error 52 before
+    // instalka.dat or anything else is touched.
+    core::checkPathPart(payer.s(Firma::SkrotPlatnika));
     s.Firma = payer;
     s.SkrotPlatnika = payer.s(Firma::SkrotPlatnika);
     core::Record inst = core::Instalka::read(s.katalog());
