@@ -88,7 +88,7 @@ TEST(SafetyCli, TwoWritersRacingNeverLoseOrMixALedger) {
 
 TEST(SafetyCli, ASecondWriterEndsAtOnceOrWaitsReadersGoOn) {
     Demo d;
-    int other = ::open((d.data / "DEMO" / ".pensja-zapis.lock").c_str(), O_RDWR | O_CREAT, 0644);
+    int other = ::open((d.data / "DEMO" / ".pensja-zapis.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
     ASSERT_EQ(::flock(other, LOCK_EX), 0);
     ASSERT_EQ(::pwrite(other, "pensja 777\n", 11, 0), 11);
     auto r = d.cli({"--yes", "ledger", "a"});
@@ -152,8 +152,8 @@ TEST(SafetyCli, LinksAtTheTemporaryNamesAndListsNamedAsThemStayUntouched) {
     }
     const std::string baza1 = readBytes(p / "Bazy" / "baza1.dta"), tymcz = readBytes(p / "Bazy" / "TYMCZ.dta");
     for (std::vector<std::string> args : {std::vector<std::string>{"--yes", "ledger", "a"}, {"--yes", "close-month", "a"},
-                                          {"--yes", "calibrate", "a"}, {"print-list", "a", "--out", "lista.txt"}})
-        EXPECT_EQ(d.cli(args).status, 0) << args[1];
+                                          {"--yes", "calibrate", "a"}, {"--yes", "print-list", "a", "--out", "lista.txt"}})
+        EXPECT_EQ(d.cli(args).status, 0) << args[1] << args[2];
     EXPECT_EQ(readBytes(target), "poza folderem danych");
     for (const auto& l : links) EXPECT_TRUE(fs::is_symlink(l)) << l;
     EXPECT_EQ(readBytes(p / "Bazy" / "baza1.dta"), baza1);

@@ -93,7 +93,9 @@ TEST(Numbers, TextNeverOverflowsAnInteger) {
     for (const Case& c : cases) {
         int got = 0;
         EXPECT_EQ(errorOf([&] { got = ValInt(c.text, "rok"); }), c.error) << c.text;
-        if (!c.error) EXPECT_EQ(got, c.value) << c.text;
+        if (!c.error) {
+            EXPECT_EQ(got, c.value) << c.text;
+        }
     }
     EXPECT_EQ(errorOf([] { Val("1e999"); }), err::Overflow);
     EXPECT_DOUBLE_EQ(Val("1e99"), 1e99);  // a double holds it: only the integer cannot
