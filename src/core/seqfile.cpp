@@ -55,9 +55,12 @@ Item SeqReader::item() {
     while (pos_ < n && (text_[pos_] == ' ' || text_[pos_] == '\t')) ++pos_;
     Item it;
     if (pos_ < n && text_[pos_] == '"') {
+        // The line end is looked for only up to the closing quote: a long line of many items is
+        // read in one pass.
         std::size_t close = text_.find('"', pos_ + 1);
-        std::size_t lineEnd = text_.find_first_of("\r\n", pos_ + 1);
-        if (close == std::string::npos || (lineEnd != std::string::npos && lineEnd < close)) {
+        const std::size_t upTo = close == std::string::npos ? n : close;
+        std::size_t lineEnd = std::string_view(text_).substr(0, upTo).find_first_of("\r\n", pos_ + 1);
+        if (close == std::string::npos || lineEnd != std::string::npos) {
             // An unclosed quote runs to the end of the line.
             std::size_t end = lineEnd == std::string::npos ? n : lineEnd;
             it = Item::quoted(text_.substr(pos_ + 1, end - pos_ - 1));
