@@ -15,7 +15,7 @@ FUZZ_BUILD ?= build-fuzz
 FUZZ_TIME  ?= 600
 FUZZ_TARGETS = codec instalka mojafirma instal dane person pay karta dodatkowe urlopy sumy specyfikacja dates numbers
 
-.PHONY: all deps configure build run test test-asan bench fuzz clean
+.PHONY: all deps configure build run test test-asan bench package fuzz clean
 
 all: build
 
@@ -59,6 +59,10 @@ fuzz:
 	  -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPENSJA_FUZZ=ON
 	cmake --build $(FUZZ_BUILD) -j $(JOBS)
 	fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_TIME) $(FUZZ_TARGETS)
+
+# The Debian package pensja_<version>_<arch>.deb in the build folder.
+package: build
+	cd $(BUILD) && cpack -G DEB
 
 # Benchmarks on generated data.
 bench: build

@@ -5,6 +5,8 @@
 #include "personnel/screens.h"
 #include "printing/screens.h"
 #include "reference/screens.h"
+#include "trips/screens.h"
+#include "tax/screens.h"
 
 namespace gui {
 
@@ -14,6 +16,8 @@ void registerAllScreens(core::Screens& screens) {
     payinputs::registerScreens(screens);
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
+    trips::registerScreens(screens);
+    tax::registerScreens(screens);
 }
 
 }  // namespace gui
