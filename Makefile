@@ -11,7 +11,11 @@ PACKAGES = cmake ninja-build g++ pkg-config qt6-base-dev qt6-base-dev-tools libg
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test test-asan bench package clean
+FUZZ_BUILD ?= build-fuzz
+FUZZ_TIME  ?= 600
+FUZZ_TARGETS = codec instalka mojafirma instal dane person pay karta dodatkowe urlopy sumy specyfikacja dates numbers
+
+.PHONY: all deps configure build run test test-asan bench package fuzz clean
 
 all: build
 
@@ -46,6 +50,16 @@ test-asan: deps
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 	cd $(ASAN_BUILD) && LANG=C.UTF-8 TZ=Europe/Warsaw ctest --output-on-failure -j $(JOBS)
 
+# Every reader under libFuzzer (needs clang), FUZZ_TIME seconds a target (make fuzz FUZZ_TIME=60):
+# the executions and crashes of each; a crash leaves its input in build-fuzz/crashes/<target>/,
+# which goes to tests/fuzz/corpus/<target>/ once fixed.
+fuzz:
+	@command -v clang++ >/dev/null || { echo "make fuzz: brak kompilatora clang++ (apt-get install clang)"; exit 1; }
+	@[ -f $(FUZZ_BUILD)/build.ninja ] || CC=clang CXX=clang++ cmake -S . -B $(FUZZ_BUILD) -G Ninja \
+	  -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPENSJA_FUZZ=ON
+	cmake --build $(FUZZ_BUILD) -j $(JOBS)
+	fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_TIME) $(FUZZ_TARGETS)
+
 # The Debian package pensja_<version>_<arch>.deb in the build folder.
 package: build
 	cd $(BUILD) && cpack -G DEB
@@ -55,4 +69,4 @@ bench: build
 	$(BUILD)/bench/pensja-bench
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

@@ -10,6 +10,7 @@
 #include "core/dialogs.h"
 #include "core/printer.h"
 #include "core/session.h"
+#include "core/writelock.h"
 
 namespace cli {
 
@@ -44,9 +45,15 @@ struct Context {
     CliDialogs dialogs;
     std::vector<std::string> args;  // the command's own arguments
     std::string dataDir, payer, date;
+    bool writes = true;  // the command's Register entry: it changes files
+    bool wait = false;   // --wait: a writer waits for another writer instead of ending
     // Reads the installation record, the payer and the rates into the session (with the
-    // overrides of --data, --payer, --date). Throws core::Error on a missing file.
+    // overrides of --data, --payer, --date). Throws core::Error on a missing file, Error 52
+    // on a --payer that would lead out of the data folder. A writing command takes the writer
+    // lock of the data folder and the payer here and holds it to its end: core::Busy when
+    // another program holds it (exit status 1), or it waits with --wait.
     void openSession();
+    std::optional<core::WriterLock> lock;
     // Takes --out FILE or --pdf FILE from the command's arguments (to be called before the
     // arguments are read), and after the printing writes the pages there, or to standard
     // output with pages separated by a form feed.
@@ -55,10 +62,15 @@ struct Context {
     std::string outFile, pdfFile;
 };
 
+// Whether a command changes files: every command is a writer (it holds the writer lock) unless
+// its entry says cli::Reads.
+enum Access : bool { Reads = false, Writes = true };
+
 struct Command {
     std::string usage;    // "words AMOUNT"
     std::string summary;  // one line in Polish
     std::function<int(Context&)> run;
+    Access access = Writes;
 };
 
 std::map<std::string, Command>& commands();

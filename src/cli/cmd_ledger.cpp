@@ -90,6 +90,6 @@ cli::Register r3("calibrate", {"calibrate LISTA",
 cli::Register r4("base", {"base LISTA IDENTYFIKATOR [ROK]",
                           "podstawa składek osoby w roku (domyślnie roku daty listy) z kartotek miesięcznych i "
                           "list dodatkowych, bez trzynastki",
-                          podstawa});
+                          podstawa, cli::Reads});
 
 }  // namespace

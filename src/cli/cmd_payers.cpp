@@ -20,7 +20,7 @@ cli::Register payers("payers", {"payers", "Płatnicy z rejestru MojaFirma.txt: s
                                         std::cout << core::PadRight(r.s(reference::Firma::SkrotPlatnika), w) << "  "
                                                   << r.s(reference::Firma::NazwaM) << "\n";
                                     return 0;
-                                }});
+                                }, cli::Reads});
 
 cli::Register lists("lists", {"lists", "listy płac Płatnika sesji (instal.dat) tak, jak pokazuje je wybór listy",
                               [](cli::Context& c) {
@@ -29,6 +29,6 @@ cli::Register lists("lists", {"lists", "listy płac Płatnika sesji (instal.dat)
                                   for (const auto& l : reference::Instal::read(c.session))
                                       std::cout << reference::displayLine(l) << "\n";
                                   return 0;
-                              }});
+                              }, cli::Reads});
 
 }  // namespace

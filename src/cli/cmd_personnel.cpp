@@ -25,6 +25,6 @@ cli::Register persons("persons", {"persons LISTA", "osoby listy płac, po jednej
                                       for (const core::Record& o : personnel::Osoba::readAll(plik))
                                           std::cout << personnel::wierszListy(++numer, o) << "\n";
                                       return 0;
-                                  }});
+                                  }, cli::Reads});
 
 }  // namespace

@@ -14,7 +14,7 @@ cli::Register rates("rates", {"rates", "stawki roku daty listy, po jednej nazwa=
                                   c.openSession();
                                   for (const auto& l : reference::ratesReport(c.session.stawki)) std::cout << l << "\n";
                                   return 0;
-                              }});
+                              }, cli::Reads});
 
 cli::Register words("words", {"words KWOTA", "kwota całkowita słownie",
                               [](cli::Context& c) {
@@ -24,6 +24,6 @@ cli::Register words("words", {"words KWOTA", "kwota całkowita słownie",
                                       throw cli::Usage("kwota musi być liczbą całkowitą od 0 do 999999999");
                                   std::cout << core::KwotaSlownie(a) << "\n";
                                   return 0;
-                              }});
+                              }, cli::Reads});
 
 }  // namespace

@@ -60,7 +60,7 @@ cli::Register rozliczenie(
                        c.takePrintOptions();
                        if (c.args.size() != 1) throw cli::Usage("trip-print wymaga numeru delegacji");
                        c.openSession();
-                       int numer = static_cast<int>(core::Val(c.args[0]));
+                       int numer = core::ValInt(c.args[0], "numer delegacji");
                        fs::path folder = trips::folder(c.session);
                        std::string dataListy = core::Replace(c.session.DataListy, "-", ".");
                        fs::path plik = core::resolvePath(folder, {trips::nazwaPliku(numer, dataListy)});

@@ -6,6 +6,7 @@
 #include "cli/cli.h"
 #include "core/error.h"
 #include "core/form.h"
+#include "core/paths.h"
 #include "core/text.h"
 #include "reference/payers.h"
 #include "reference/rates.h"
@@ -64,6 +65,14 @@ void Context::openSession() {
         session.takeInstalka(core::Instalka::read(folder));
         folder = session.katalog();
     }
+    if (!payer.empty()) core::checkPathPart(payer);
+    if (writes) {
+        core::Session where = session;
+        where.Katalog = folder.string();
+        where.SkrotPlatnika = payer;
+        if (payer.empty()) where.SkrotPlatnika = core::Instalka::read(folder).s(core::Instalka::SkrotPlatnika);
+        lock.emplace(where, wait ? core::WriterLock::Mode::Wait : core::WriterLock::Mode::Fail);
+    }
     session.takeInstalka(core::Instalka::read(folder));
     if (!dataDir.empty()) session.Katalog = std::filesystem::absolute(dataDir).string();
     if (!payer.empty()) session.SkrotPlatnika = payer;
@@ -76,7 +85,10 @@ void Context::openSession() {
 }  // namespace cli
 
 static void usage(std::ostream& out) {
-    out << "Użycie: pensja-cli [--data FOLDER] [--payer SKRÓT] [--date dd-mm-rrrr] [--yes|--no] POLECENIE [ARGUMENTY]\n\n"
+    out << "Użycie: pensja-cli [--data FOLDER] [--payer SKRÓT] [--date dd-mm-rrrr] [--yes|--no] [--wait] POLECENIE "
+           "[ARGUMENTY]\n\n"
+           "Polecenie, które zmienia pliki, zajmuje na czas pracy folder danych i folder Płatnika; gdy zmienia je\n"
+           "właśnie inny program, kończy się od razu z kodem 1 i nazwą tego programu, a z --wait czeka, aż skończy.\n\n"
            "Polecenia:\n";
     for (auto& [name, c] : cli::commands()) out << "  " << c.usage << "\n      " << c.summary << "\n";
 }
@@ -128,6 +140,8 @@ int main(int argc, char** argv) {
                 ctx.payer = value(a);
             } else if (a == "--date") {
                 ctx.date = value(a);
+            } else if (a == "--wait") {
+                ctx.wait = true;
             } else if (a == "--yes") {
                 ctx.dialogs.answer = true;
             } else if (a == "--no") {
@@ -147,6 +161,7 @@ int main(int argc, char** argv) {
         if (command.empty()) throw cli::Usage("nie podano polecenia");
         auto it = cli::commands().find(command);
         if (it == cli::commands().end()) throw cli::Usage("nieznane polecenie " + command);
+        ctx.writes = it->second.access == cli::Writes;
         int rc = it->second.run(ctx);
         std::cout.flush();
         return rc;
@@ -159,6 +174,9 @@ int main(int argc, char** argv) {
         return 1;
     } catch (const core::Error& e) {
         std::cerr << "pensja-cli:" << core::errorReport(e) << "\n";
+        return 1;
+    } catch (const core::Busy& b) {
+        std::cerr << "[" << b.Title << "] " << b.Text << "\n";
         return 1;
     } catch (const std::exception& e) {
         std::cerr << "pensja-cli: " << e.what() << "\n";

@@ -42,6 +42,10 @@ public:
     // opened from another screen such as "frmPlaca"). A screen of a subsystem opens a screen of
     // a subsystem to its right only through this.
     const Screens* screens = nullptr;
+    // The session whose data folder and payer folder every command of a screen locks for
+    // writing (core::WriterLock): the program sets it; the command line, which locks for the
+    // whole command itself, and the tests leave it empty.
+    const Session* writerSession = nullptr;
     bool canOpen(const std::string& name) const;
     // Opens the named screen; false when this program has none of that name.
     bool open(const std::string& name, Session& s);

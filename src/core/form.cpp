@@ -3,6 +3,9 @@
 #include "core/text.h"
 
 #include <exception>
+#include <optional>
+
+#include "core/writelock.h"
 
 namespace core {
 
@@ -42,6 +45,8 @@ void Form::guarded(const std::function<void()>& work) {
         work();
     } catch (const Error& e) {
         showError(e);
+    } catch (const Busy& b) {
+        ui.msgBox(b.Text, Buttons::OK, Icon::Exclamation, b.Title);
     } catch (const std::exception& e) {
         ui.msgBox(std::string("Nieoczekiwany błąd: ") + e.what(), Buttons::OK, Icon::Critical);
     }
@@ -93,10 +98,28 @@ void Form::showError(const Error& e, ReportWords words) {
     ui.msgBox(refusalText(label), Buttons::OK, Icon::Exclamation, "Błędne dane");
 }
 
+void Form::command(const std::function<void()>& work) {
+    guarded([&] {
+        std::optional<WriterLock> lock;
+        while (ui.writerSession && !lock) {
+            try {
+                lock.emplace(*ui.writerSession);
+            } catch (const Busy& b) {
+                if (ui.msgBox(b.Text, Buttons::RetryCancel, Icon::Exclamation, b.Title) != Answer::Retry) return;
+            }
+        }
+        work();
+    });
+}
+
 void Form::fire(Control& c, std::function<void()> Control::*event) {
     const auto& handler = c.*event;
     if (!handler) return;
-    guarded(handler);
+    // Typing and the clock change no file: they run without the lock.
+    if (event == &Control::Change || event == &Control::Tick)
+        guarded(handler);
+    else
+        command(handler);
 }
 
 Control* Form::find(const std::string& name) {

@@ -154,6 +154,10 @@ public:
     // moves the focus there; any other error gets the screen's error report in `words`.
     void showError(const Error& e, ReportWords words);
     void showError(const Error& e) { showError(e, Words); }
+    // A command of the screen (a click, Enter, Form_Load): guarded, and holding the writer lock
+    // of ui.writerSession while it runs. When another program writes, a box names it and offers
+    // Retry; Cancel drops the command. fire() runs every event but Change and Tick this way.
+    void command(const std::function<void()>& work);
 
     Control* find(const std::string& name);
     const std::vector<Control*>& controls() const { return controls_; }

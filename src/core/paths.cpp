@@ -7,7 +7,26 @@ namespace fs = std::filesystem;
 
 namespace core {
 
+std::string badPathPart(std::string_view part) {
+    if (part == "..") return "nazwa \"..\" prowadzi poza folder danych";
+    for (unsigned char c : part) {
+        if (c == '/' || c == '\\') return "nazwa \"" + std::string(part) + "\" zawiera ukośnik";
+        if (c == ':') return "nazwa \"" + std::string(part) + "\" wskazuje dysk";
+        if (c < 0x20) return "nazwa zawiera znak sterujący";
+    }
+    return {};
+}
+
+void checkPathPart(std::string_view part) {
+    std::string why = badPathPart(part);
+    if (!why.empty())
+        throw Error(err::BadFileName, std::string(part),
+                    "Niedozwolona nazwa pliku lub folderu: " + why + ". Nazwy płatników, list i plików "
+                    "nie mogą zawierać ukośników, \"..\" ani dysku - wszystko leży w folderze danych.");
+}
+
 static fs::path step(const fs::path& dir, std::string_view part) {
+    checkPathPart(part);
     fs::path exact = dir / std::string(part);
     std::error_code ec;
     if (fs::exists(exact, ec)) return exact;

@@ -47,7 +47,14 @@ double Record::d(int n) const {
 
 float Record::f(int n) const { return static_cast<float>(d(n)); }
 
-long Record::i(int n) const { return std::lround(d(n)); }
+// A number rounded to a whole one for an integer field: Error 6 when no integer holds it.
+static long roundLong(double v, const std::string& field) {
+    if (!(v > -9.2e18 && v < 9.2e18))
+        throw Error(err::Overflow, field, "wartość pola " + field + " nie mieści się w liczbie całkowitej");
+    return std::lround(v);
+}
+
+long Record::i(int n) const { return roundLong(d(n), fieldName(n)); }
 
 namespace {
 
@@ -73,7 +80,7 @@ void Record::set(int n, const std::string& text) {
     case FieldType::Float: set(n, static_cast<float>(toDoubleOrZero(text, fieldName(n)))); break;
     case FieldType::Double: set(n, toDoubleOrZero(text, fieldName(n))); break;
     case FieldType::Int16:
-    case FieldType::Long: set(n, std::lround(toDoubleOrZero(text, fieldName(n)))); break;
+    case FieldType::Long: set(n, roundLong(toDoubleOrZero(text, fieldName(n)), fieldName(n))); break;
     }
 }
 
@@ -86,7 +93,7 @@ void Record::set(int n, float v) {
     case FieldType::Line: it = Item::quoted(numText(v)); break;
     case FieldType::Double: it = Item::bare(numText(static_cast<double>(v))); break;
     case FieldType::Int16:
-    case FieldType::Long: set(n, std::lround(v)); break;
+    case FieldType::Long: set(n, roundLong(v, fieldName(n))); break;
     case FieldType::Float:
         it = Item::bare(numText(CSng(v, std::string(schema_->name) + ", pole " + std::to_string(n) + " " + fieldName(n))));
         break;
@@ -106,7 +113,7 @@ void Record::set(int n, double v) {
         it = Item::bare(numText(CSng(v, std::string(schema_->name) + ", pole " + std::to_string(n) + " " + fieldName(n))));
         break;
     case FieldType::Int16:
-    case FieldType::Long: set(n, std::lround(v)); break;
+    case FieldType::Long: set(n, roundLong(v, fieldName(n))); break;
     case FieldType::Double:
     case FieldType::Variant: it = Item::bare(numText(v)); break;
     case FieldType::Blank: break;

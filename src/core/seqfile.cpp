@@ -1,11 +1,13 @@
 #include "core/seqfile.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include "core/error.h"
@@ -53,9 +55,12 @@ Item SeqReader::item() {
     while (pos_ < n && (text_[pos_] == ' ' || text_[pos_] == '\t')) ++pos_;
     Item it;
     if (pos_ < n && text_[pos_] == '"') {
+        // The line end is looked for only up to the closing quote: a long line of many items is
+        // read in one pass.
         std::size_t close = text_.find('"', pos_ + 1);
-        std::size_t lineEnd = text_.find_first_of("\r\n", pos_ + 1);
-        if (close == std::string::npos || (lineEnd != std::string::npos && lineEnd < close)) {
+        const std::size_t upTo = close == std::string::npos ? n : close;
+        std::size_t lineEnd = std::string_view(text_).substr(0, upTo).find_first_of("\r\n", pos_ + 1);
+        if (close == std::string::npos || lineEnd != std::string::npos) {
             // An unclosed quote runs to the end of the line.
             std::size_t end = lineEnd == std::string::npos ? n : lineEnd;
             it = Item::quoted(text_.substr(pos_ + 1, end - pos_ - 1));
@@ -119,14 +124,55 @@ void commitFile(const fs::path& target, const std::string& utf8, const std::stri
     commitBytes(target, toCp1250(utf8, target.string()), tempName);
 }
 
-void commitBytes(const fs::path& target, const std::string& bytes, const std::string& tempName) {
+// A temporary file of a rewrite is named ".~<target>.<process>.<random>": never a name the data
+// can hold (a list or a payer), never one that exists (it is created exclusively, without
+// following a link), and the process in its name tells a leftover of a killed run from the
+// file of a run still going on.
+static std::string tempPrefix(const fs::path& target) { return ".~" + target.filename().string() + "."; }
+
+static bool processAlive(long pid) { return pid > 0 && (::kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM); }
+
+// Removes the temporary files that killed rewrites of `target` left behind. Only our own names
+// are looked at; a link is removed as a link, never followed.
+static void removeLeftovers(const fs::path& folder, const fs::path& target) {
+    const std::string prefix = tempPrefix(target);
+    std::error_code ec;
+    for (const auto& e : fs::directory_iterator(folder, ec)) {
+        const std::string name = e.path().filename().string();
+        if (name.rfind(prefix, 0) != 0) continue;
+        const std::string rest = name.substr(prefix.size());
+        const std::size_t dot = rest.find('.');
+        if (dot == 0 || dot == std::string::npos || rest.find_first_not_of("0123456789") != dot) continue;
+        if (processAlive(std::strtol(rest.c_str(), nullptr, 10))) continue;
+        std::error_code rm;
+        fs::remove(e.path(), rm);
+    }
+}
+
+// Creates a fresh temporary file beside `target`; its descriptor, its name in `temp`.
+static int createTemp(const fs::path& folder, const fs::path& target, fs::path& temp) {
+    static const char digits[] = "0123456789abcdefghijklmnopqrstuvwxyz";
+    std::random_device rd;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        std::string name = tempPrefix(target) + std::to_string(::getpid()) + ".";
+        for (int i = 0; i < 8; ++i) name += digits[rd() % 36];
+        temp = folder / name;
+        int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
+        if (fd >= 0 || errno != EEXIST) return fd;
+    }
+    errno = EEXIST;
+    return -1;
+}
+
+void commitBytes(const fs::path& target, const std::string& bytes, const std::string& /*tempName*/) {
     fs::path folder = target.parent_path();
     if (folder.empty()) folder = ".";
     std::error_code ec;
     if (!fs::is_directory(folder, ec))
         throw Error(err::PathNotFound, target.string(), "brak folderu " + folder.string());
-    fs::path temp = folder / (tempName.empty() ? target.filename().string() + "~" : tempName);
-    int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    removeLeftovers(folder, target);
+    fs::path temp;
+    int fd = createTemp(folder, target, temp);
     if (fd < 0)
         throw Error(err::PathFileAccess, target.string(),
                     "nie można zapisać w folderze " + folder.string() + " (" + std::strerror(errno) + ")");

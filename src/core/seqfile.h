@@ -68,10 +68,13 @@ private:
 // Reads a whole file as UTF-8 text: Error 53/76/75 as SeqReader.
 std::string readFileText(const std::filesystem::path& path);
 
-// Replaces `target` by `utf8` encoded in CP1250: the content goes to `tempName` in the target's
-// folder (a name of the system such as "tym.dta"; empty means the target's name with "~"),
-// is flushed and synced, and then renamed over the target. A failure before the rename leaves
-// the target as it was and removes the temporary file.
+// Replaces `target` by `utf8` encoded in CP1250: the content goes to a fresh temporary file in
+// the target's folder, created exclusively (never an existing file, never through a link), is
+// flushed and synced, and then renamed over the target. `tempName` is the name the system gives
+// its temporary file ("tym.dta"); no part reads a temporary file by its name, so it only tells
+// the reader of the code which rewrite this is. A failure before the rename leaves the target
+// as it was and removes the temporary file; the leftovers of a killed rewrite of the same
+// target are removed by the next one.
 void commitFile(const std::filesystem::path& target, const std::string& utf8, const std::string& tempName = {});
 // The same for bytes written as they are (a PDF, a file of another code page).
 void commitBytes(const std::filesystem::path& target, const std::string& bytes, const std::string& tempName = {});

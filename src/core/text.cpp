@@ -328,7 +328,24 @@ double Val(std::string_view s) {
         }
     }
     if (!any) return 0.0;
-    return std::strtod(digits.c_str(), nullptr);
+    double v = std::strtod(digits.c_str(), nullptr);
+    if (!std::isfinite(v))
+        throw Error(err::Overflow, "Val(\"" + std::string(s) + "\")", "liczba \"" + std::string(s) + "\" jest za duża");
+    return v;
+}
+
+int toInt(double v, const std::string& step) {
+    if (!(v > -2147483649.0 && v < 2147483648.0))
+        throw Error(err::Overflow, step, "liczba " + std::to_string(v) + " nie mieści się w liczbie całkowitej");
+    return static_cast<int>(v);
+}
+
+int ValInt(std::string_view s, const std::string& step) {
+    try {
+        return toInt(Val(s), step);
+    } catch (const Error&) {
+        throw Error(err::Overflow, step, "\"" + std::string(s) + "\" nie mieści się w liczbie całkowitej");
+    }
 }
 
 bool isNumeric(std::string_view s) {

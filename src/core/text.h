@@ -40,8 +40,14 @@ std::string KropkaZamiastPrzecinka(std::string&& s);
 
 // Numbers from text.
 // Val: reads the leading number of a text, blanks ignored, stops at the first other character;
-// 0 when there is none.
+// 0 when there is none. A number too large for a double ("1e999") is Error 6 (overflow).
 double Val(std::string_view s);
+// A whole number from a number read from text: truncated towards zero as the classic integer
+// conversions of a date part; out of the range of `int` ("1e99" as a year) is Error 6 at `step`.
+// Never cast a Val to an integer type directly.
+int toInt(double v, const std::string& step);
+// Val then toInt: a day, a month or a year taken out of a date text.
+int ValInt(std::string_view s, const std::string& step);
 // A strict conversion: the whole text (blanks around it allowed) must be a number with a
 // decimal point, else Error 13 at `step`. Empty text is an error too.
 double toDouble(std::string_view s, const std::string& step);

@@ -584,7 +584,7 @@ void FormView::run(Control& c, std::function<void()> Control::*event) {
 
 void FormView::runWork(const std::function<void()>& work) {
     pull();
-    form_.guarded(work);
+    form_.command(work);
     afterEvent();
 }
 

@@ -42,6 +42,7 @@ int main(int argc, char** argv) {
     core::Screens screens;
     gui::registerAllScreens(screens);
     dialogs.screens = &screens;
+    dialogs.writerSession = &session;
     reference::PlaceScreen place(dialogs, session);
     gui::MainWindow win(place);
     dialogs.setParent(&win);

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "core/writelock.h"
 #include "gui/qtext.h"
 
 namespace gui {
@@ -104,6 +105,7 @@ void QtDialogs::showForm(core::Form& form) {
     ScreenDialog dlg(form, activeParent());
     dlg.view()->runWork([&] { form.Load(); });
     if (form.Unloaded) return;
+    core::WriterLock::Pause pause;  // the screen's own commands lock for themselves
     dlg.exec();
 }
 

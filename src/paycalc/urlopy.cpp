@@ -177,7 +177,7 @@ UrlopMiesiaca modUrlop(core::Session& s) {
     fs::path file = Urlop::path(s, s.rok());
     if (core::fileExists(file)) {
         // Block by block until the person's; reading stops after the list's month.
-        const int miesiac = static_cast<int>(core::Val(s.miesiac()));
+        const int miesiac = core::ValInt(s.miesiac(), "miesiąc daty listy " + s.DataListy);
         core::SeqReader in(file);
         while (!in.eof() && !u.znaleziony) {
             bool urwany = false;

@@ -59,7 +59,7 @@ ZbioryListy wczytajZbiory(const core::Session& s) {
     ZbioryListy z;
     z.placowe = wczytajZbior(Pay::path(s), Pay::schema(), kluczPlacy);
     z.osobowe = wczytajZbior(Osoba::path(s), Osoba::schema(), kluczOsoby);
-    z.urlopy = UrlopyMiesiaca(static_cast<int>(core::Val(s.miesiac())));
+    z.urlopy = UrlopyMiesiaca(core::ValInt(s.miesiac(), "miesiąc daty listy " + s.DataListy));
     fs::path urlopy = Urlop::path(s, s.rok());
     if (core::fileExists(urlopy)) {
         try {
@@ -108,8 +108,9 @@ struct Dzien {
     int d = 0, m = 0, y = 0;
 };
 Dzien rozbij(const std::string& data) {
-    return {static_cast<int>(core::Val(core::Mid(data, 1, 2))), static_cast<int>(core::Val(core::Mid(data, 4, 2))),
-            static_cast<int>(core::Val(core::Mid(data, 7, 4)))};
+    const std::string krok = std::string(kKrok) + ", data " + data;
+    return {core::ValInt(core::Mid(data, 1, 2), krok), core::ValInt(core::Mid(data, 4, 2), krok),
+            core::ValInt(core::Mid(data, 7, 4), krok)};
 }
 
 // A date text of the calculation as a calendar date: Error 13 when it is none.
@@ -166,8 +167,8 @@ Wynik modWyliczeniePlacy(core::Session& s, core::Dialogs& ui, const ZbioryListy&
     // Leave of the month.
     const std::string rok = s.rok();
     const std::string mies = s.miesiac();
-    const int miesiacNr = static_cast<int>(core::Val(mies));
-    const int rokNr = static_cast<int>(core::Val(rok));
+    const int miesiacNr = core::ValInt(mies, std::string(kKrok) + ", data listy " + s.DataListy);
+    const int rokNr = core::ValInt(rok, std::string(kKrok) + ", data listy " + s.DataListy);
     {
         UrlopMiesiaca u = z.urlopy.znajdz(s.KluczOsoby);
         w.DniUrlopu = u.DniUrlopu;

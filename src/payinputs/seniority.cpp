@@ -6,11 +6,13 @@ namespace payinputs {
 
 Staz obliczStaz(const std::string& dataZatrudnienia, const std::string& dataListy, const std::string& grupa,
                 const std::string& skrotPlatnika) {
-    const int hireDay = static_cast<int>(core::Val(core::Mid(dataZatrudnienia, 1, 2)));
-    const int hireMonth = static_cast<int>(core::Val(core::Mid(dataZatrudnienia, 4, 2)));
-    const int hireYear = static_cast<int>(core::Val(core::Mid(dataZatrudnienia, 7, 4)));
-    const int listMonth = static_cast<int>(core::Val(core::Mid(dataListy, 4, 2)));
-    const int listYear = static_cast<int>(core::Val(core::Right(dataListy, 4)));
+    const std::string zatr = "staż, data zatrudnienia " + dataZatrudnienia;
+    const std::string listy = "staż, data listy " + dataListy;
+    const int hireDay = core::ValInt(core::Mid(dataZatrudnienia, 1, 2), zatr);
+    const int hireMonth = core::ValInt(core::Mid(dataZatrudnienia, 4, 2), zatr);
+    const int hireYear = core::ValInt(core::Mid(dataZatrudnienia, 7, 4), zatr);
+    const int listMonth = core::ValInt(core::Mid(dataListy, 4, 2), listy);
+    const int listYear = core::ValInt(core::Right(dataListy, 4), listy);
 
     Staz st;
     st.stazLat = listYear - hireYear;

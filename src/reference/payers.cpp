@@ -1,5 +1,8 @@
 #include "reference/payers.h"
 
+#include <fstream>
+#include <sstream>
+
 #include "core/error.h"
 #include "core/paths.h"
 #include "core/text.h"
@@ -82,15 +85,12 @@ fs::path makePayerTree(const fs::path& katalog, const std::string& skrot) {
     fs::path wzor = core::resolvePath(katalog, {"dane", "wzorc.kdu"});
     fs::path cel = core::resolvePath(folder, {"Zus", "wzorc.kdu"});
     if (core::fileExists(wzor) && !core::fileExists(cel)) {
-        // Copied byte for byte through a temporary file, so that a break leaves no half template.
-        fs::path tmp = cel.parent_path() / "wzorc.kdu~";
-        std::error_code ec;
-        fs::copy_file(wzor, tmp, fs::copy_options::overwrite_existing, ec);
-        if (!ec) fs::rename(tmp, cel, ec);
-        if (ec) {
-            fs::remove(tmp, ec);
-            throw core::Error(core::err::PathFileAccess, cel.string(), "nie można skopiować wzorca " + wzor.string());
-        }
+        // Copied byte for byte through a fresh temporary file, so that a break leaves no half template.
+        std::ifstream in(wzor, std::ios::binary);
+        std::ostringstream bytes;
+        bytes << in.rdbuf();
+        if (!in) throw core::Error(core::err::PathFileAccess, cel.string(), "nie można skopiować wzorca " + wzor.string());
+        core::commitBytes(cel, bytes.str());
     }
     return folder;
 }
@@ -112,6 +112,9 @@ std::string badPayerName(const std::string& skrot, const fs::path& katalog, cons
 }
 
 void choosePayer(core::Session& s, const core::Record& payer) {
+    // A short name from MojaFirma.txt that would lead out of the data folder: Error 52 before
+    // instalka.dat or anything else is touched.
+    core::checkPathPart(payer.s(Firma::SkrotPlatnika));
     s.Firma = payer;
     s.SkrotPlatnika = payer.s(Firma::SkrotPlatnika);
     core::Record inst = core::Instalka::read(s.katalog());

@@ -95,7 +95,7 @@ std::vector<core::Record> czytajDiety(const fs::path& folder) {
 
 int nastepnyNumer(const fs::path& folder, const std::string& dataDel) {
     std::string RR = core::Mid(dataDel, 9, 2);
-    int miesiac = static_cast<int>(core::Val(core::Mid(dataDel, 4, 2)));
+    int miesiac = core::ValInt(core::Mid(dataDel, 4, 2), "nastepnyNumer, " + dataDel);
     if (miesiac < 1 || miesiac > 12) throw core::Error(core::err::TypeMismatch, "nastepnyNumer", dataDel);
     fs::path plik = core::resolvePath(folder, {"NumD" + RR + ".dat"});
     std::vector<core::Record> wiersze;

@@ -472,7 +472,7 @@ void DelegacjeScreen::cmdZapiszDelegacje() {
     txtDataDel.Text = core::FormatDate(data, "dd.mm.yyyy");
     guarded([&] {
         Delegacja d = delegacja();
-        int numer = static_cast<int>(core::Val(txtNrDel.Text));
+        int numer = core::ValInt(txtNrDel.Text, "txtNrDel");
         if (core::Trim(txtNrDel.Text).empty()) {
             numer = nastepnyNumer(folder(s), txtDataDel.Text);
             txtNrDel.Text = std::to_string(numer);

@@ -12,9 +12,10 @@ struct Chwila {
 };
 
 Chwila chwila(const std::string& data, const std::string& godz) {
-    return {static_cast<int>(core::Val(core::Mid(data, 7, 4))), static_cast<int>(core::Val(core::Mid(data, 4, 2))),
-            static_cast<int>(core::Val(core::Left(data, 2))), static_cast<int>(core::Val(core::Left(godz, 2))),
-            static_cast<int>(core::Val(core::Right(godz, 2)))};
+    const std::string krok = "data " + data + " " + godz;
+    return {core::ValInt(core::Mid(data, 7, 4), krok), core::ValInt(core::Mid(data, 4, 2), krok),
+            core::ValInt(core::Left(data, 2), krok), core::ValInt(core::Left(godz, 2), krok),
+            core::ValInt(core::Right(godz, 2), krok)};
 }
 
 int dniMiesiaca(int rok, int miesiac) {

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <csignal>
 #include <unistd.h>
 
 #include "core/error.h"
@@ -228,13 +231,20 @@ TEST(ErrorReport, Words) {
 }
 
 TEST(SafeRewrite, FailureToWriteTheTemporaryFileLeavesTheFileWhole) {
-    // A folder in the way of the temporary file fails the write for any user, root included.
+    // A limit on the size of a file fails the write for any user, root included.
     TempDir dir;
     auto file = dir / "dane.dta";
     commitFile(file, "\"stare\"\r\n");
-    std::filesystem::create_directory(dir / "tym.dta");
-    EXPECT_THROW(commitFile(file, "\"nowe\"\r\n", "tym.dta"), Error);
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit old{};
+    ::getrlimit(RLIMIT_FSIZE, &old);
+    rlimit small = old;
+    small.rlim_cur = 4096;
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_THROW(commitFile(file, std::string(10000, 'x'), "tym.dta"), Error);
+    ::setrlimit(RLIMIT_FSIZE, &old);
     EXPECT_EQ(readBytes(file), "\"stare\"\r\n");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 1);  // no temporary file left
 }
 
 TEST(Records, BlankPositionsAreAlwaysWrittenEmpty) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/error.h"
 #include "payinputs/seniority.h"
 
 using payinputs::obliczStaz;
@@ -29,5 +30,16 @@ TEST(Seniority, YearsAndPercent) {
         auto st = obliczStaz(c.hire, c.list, c.group, c.payer);
         EXPECT_EQ(st.stazLat, c.years) << c.hire << " " << c.list << " " << c.group << " " << c.payer;
         EXPECT_EQ(st.stazProcent, c.percent) << c.hire << " " << c.list << " " << c.group << " " << c.payer;
+    }
+}
+
+TEST(Seniority, AYearThatNoIntegerHoldsIsAnOverflow) {
+    for (auto [hire, list] : {std::pair{"01/01/1e99", "31-12-2021"}, {"01/01/2010", "31-12-1e99"}, {"01/01/-9e9", "31-12-2021"}}) {
+        try {
+            obliczStaz(hire, list, "a", "DEMO");
+            ADD_FAILURE() << hire << " " << list;
+        } catch (const core::Error& e) {
+            EXPECT_EQ(e.Number, core::err::Overflow) << hire << " " << list;
+        }
     }
 }

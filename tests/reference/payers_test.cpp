@@ -355,3 +355,20 @@ TEST(PayerRegister, TheStartChoosesThePayerAsTheScreenDoes) {
         EXPECT_EQ(core::Instalka::read(d.dir.path()).s(core::Instalka::SkrotPlatnika), c.written);
     }
 }
+
+TEST(PayerRegister, AShortNameInTheRegisterThatLeadsOutIsRefusedBeforeAnythingIsWritten) {
+    for (const std::string skrot : {"../outside", "..", "/tmp", "a\\b", "C:"}) {
+        Demo d;
+        core::Record r(Firma::schema());
+        r.set(Firma::SkrotPlatnika, skrot);
+        const std::string instalka = readBytes(d.dir / "instalka.dat");
+        try {
+            reference::choosePayer(d.s, r);
+            ADD_FAILURE() << skrot;
+        } catch (const core::Error& e) {
+            EXPECT_EQ(e.Number, core::err::BadFileName) << skrot;
+        }
+        EXPECT_EQ(readBytes(d.dir / "instalka.dat"), instalka) << skrot;
+        EXPECT_EQ(d.s.SkrotPlatnika, "DEMO") << skrot;
+    }
+}

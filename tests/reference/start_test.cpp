@@ -1,3 +1,6 @@
+#include <sys/resource.h>
+
+#include <csignal>
 // The start of a session on a copy of the demo data: boxes, the list date, the password.
 #include <gtest/gtest.h>
 
@@ -298,14 +301,20 @@ TEST(MainMenu, EntriesWithoutScreensAreDisabled) {
 }
 
 TEST(ListDate, FolderThatCannotBeWrittenKeepsTheRecord) {
-    // Something in the way of the temporary file makes the rewrite fail for any user.
+    // A limit on the size of a file makes the rewrite fail for any user.
     Demo d;
     reference::PlaceScreen place(d.ui, d.s);
     place.Load();
     std::string before = readBytes(d.instalka());
-    fs::create_directory(d.dir / "tym.dta");
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit old{};
+    ::getrlimit(RLIMIT_FSIZE, &old);
+    rlimit small = old;
+    small.rlim_cur = 10;
+    ::setrlimit(RLIMIT_FSIZE, &small);
     place.txtDataListyS.Text = "28-02-2021";
     place.cmdPotwierdz();
+    ::setrlimit(RLIMIT_FSIZE, &old);
     ASSERT_FALSE(d.ui.boxes.empty());
     EXPECT_EQ(core::Left(d.ui.boxes.back().text, 11), " Błąd nr 75");
     EXPECT_EQ(readBytes(d.instalka()), before);
