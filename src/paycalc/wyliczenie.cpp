@@ -64,7 +64,7 @@ ZbioryListy wczytajZbiory(const core::Session& s) {
     if (core::fileExists(urlopy)) {
         try {
             core::SeqReader in(urlopy);
-            const int miesiac = static_cast<int>(core::Val(s.miesiac()));
+            const int miesiac = core::ValInt(s.miesiac(), "miesiąc daty listy " + s.DataListy);
             bool urwany = false;
             while (!in.eof() && !urwany) {
                 z.urlopy.dodaj(Urlop::readBlok(in, miesiac, urwany));
