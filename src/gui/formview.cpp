@@ -431,6 +431,14 @@ void FormView::pushOne(Control& c, QWidget* w) {
                 QTableWidgetItem* it = t->item(r - 1, col);
                 if (!it) t->setItem(r - 1, col, it = new QTableWidgetItem);
                 if (it->text() != q(c.Cells[r][col])) it->setText(q(c.Cells[r][col]));
+                const Control::CellStyle& st = c.Style(r, col);
+                it->setBackground(st.back < 0 ? QBrush() : QBrush(QColor::fromRgb(static_cast<QRgb>(st.back))));
+                it->setForeground(st.fore < 0 ? QBrush() : QBrush(QColor::fromRgb(static_cast<QRgb>(st.fore))));
+                if (it->font().bold() != st.bold) {
+                    QFont f = t->font();
+                    f.setBold(st.bold);
+                    it->setFont(f);
+                }
             }
         if (c.Row >= 1 && c.Row < c.Rows) t->setCurrentCell(c.Row - 1, c.Col);
         break;
@@ -577,6 +585,8 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
         Control& c = *it->second;
         if (event->type() == QEvent::MouseButtonPress && c.Click) {
             QTimer::singleShot(0, this, [this, &c] { run(c, &Control::Click); });
+        } else if (event->type() == QEvent::FocusIn && c.GotFocus) {
+            QTimer::singleShot(0, this, [this, &c] { run(c, &Control::GotFocus); });
         } else if (event->type() == QEvent::FocusOut && c.LostFocus) {
             QTimer::singleShot(0, this, [this, &c] { run(c, &Control::LostFocus); });
         }

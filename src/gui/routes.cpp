@@ -1,5 +1,6 @@
 #include "gui/routes.h"
 
+#include "leave/screens.h"
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
@@ -14,6 +15,7 @@ void registerAllScreens(core::Screens& screens) {
     payinputs::registerScreens(screens);
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
+    leave::registerScreens(screens);
 }
 
 }  // namespace gui
