@@ -261,8 +261,11 @@ void UrlopyScreen::cmdDrukujWykaz() {
         std::string t = "|" + core::PadRight(nazwa, 15);
         for (int d = 1; d <= 31; ++d) t += "|" + core::PadLeft(r == kWierszRazemU ? "" : MSFlexGrid1.TextMatrix(r, d), 2);
         const int szer[] = {5, 5, 7, 5};
-        for (int c = KolU::Stawka; c <= KolU::IlGodz; ++c)
-            t += "|" + core::PadLeft(MSFlexGrid1.TextMatrix(r, c), static_cast<std::size_t>(szer[c - KolU::Stawka]));
+        for (int c = KolU::Stawka; c <= KolU::IlGodz; ++c) {
+            std::string v = MSFlexGrid1.TextMatrix(r, c);
+            if (c == KolU::Stawka && !v.empty()) v = core::numText(liczba(v));  // 120.50 in five places
+            t += "|" + core::PadLeft(v, static_cast<std::size_t>(szer[c - KolU::Stawka]));
+        }
         return t + "|";
     };
     const std::string platnik = s.Firma.valid() ? core::RTrim(s.Firma.s(reference::Firma::NazwaM)) : s.SkrotPlatnika;
