@@ -137,7 +137,8 @@ TEST(WorkingTime, PrintedMonth) {
     e.f->cmdWstawG();
     e.f->cmdDrukCzasuPracy();
     std::vector<std::string> t;
-    for (const auto& line : e.l.ui.paper.pages().at(0)) t.push_back(line.text);
+    const auto strony = e.l.ui.paper.pages();
+    for (const auto& line : strony.at(0)) t.push_back(line.text);
     EXPECT_EQ(t[0], "   Rozliczenie czasu pracy FIRMA za miesiac kwiecień,2021 dla pracownika KOWALSKI JAN");
     EXPECT_EQ(t[2], "|Dzień miesiąca      |GodzPr |Godz50 |Godz100|RmGPr  |Limit  |Swięto |RmUrlop|");
     EXPECT_EQ(t[4], "|czwartek,01,04,21   |      8|       |       |      8|      8|       |       |");
