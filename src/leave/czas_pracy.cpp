@@ -191,8 +191,9 @@ void CzasPracyScreen::cmdZapiszZmiany() {
 }
 
 void CzasPracyScreen::cmdDrukCzasuPracy() {
+    // The date column is one wider than the heading's words: "poniedziałek,dd,mm,yy" has 21.
     const std::string naglowek =
-        "|Dzień miesiąca      |GodzPr |Godz50 |Godz100|RmGPr  |Limit  |Swięto |RmUrlop|";
+        "|Dzień miesiąca       |GodzPr |Godz50 |Godz100|RmGPr  |Limit  |Swięto |RmUrlop|";
     const std::string linijka = core::String(core::Len(naglowek), '=');
     const int kolumny[] = {KolCP::Gp, KolCP::G50, KolCP::G100, KolCP::Lpg, KolCP::Limit, KolCP::Swieto, KolCP::GUr};
     auto wartosci = [&](int r) {
@@ -210,10 +211,10 @@ void CzasPracyScreen::cmdDrukCzasuPracy() {
     p.print(linijka);
     for (int d = 1; d <= 31; ++d) {
         if (brakDnia(d)) continue;
-        p.print("|" + core::PadRight(core::FormatDate({rok_, miesiac, d}, "dddd,dd,mm,yy"), 20) + "|" + wartosci(d));
+        p.print("|" + core::PadRight(core::FormatDate({rok_, miesiac, d}, "dddd,dd,mm,yy"), 21) + "|" + wartosci(d));
     }
     p.print(linijka);
-    p.print("| Razem              |" + wartosci(kWierszRazem));
+    p.print("| Razem               |" + wartosci(kWierszRazem));
     p.print(linijka);
     p.emptyLine();
     p.print("  wykonał ");

@@ -140,10 +140,12 @@ TEST(WorkingTime, PrintedMonth) {
     const auto strony = e.l.ui.paper.pages();
     for (const auto& line : strony.at(0)) t.push_back(line.text);
     EXPECT_EQ(t[0], "   Rozliczenie czasu pracy FIRMA za miesiac kwiecień,2021 dla pracownika KOWALSKI JAN");
-    EXPECT_EQ(t[2], "|Dzień miesiąca      |GodzPr |Godz50 |Godz100|RmGPr  |Limit  |Swięto |RmUrlop|");
-    EXPECT_EQ(t[4], "|czwartek,01,04,21   |      8|       |       |      8|      8|       |       |");
-    EXPECT_EQ(t[6], "|sobota,03,04,21     |       |       |       |       |       |       |       |");
+    EXPECT_EQ(t[2], "|Dzień miesiąca       |GodzPr |Godz50 |Godz100|RmGPr  |Limit  |Swięto |RmUrlop|");
+    EXPECT_EQ(t[4], "|czwartek,01,04,21    |      8|       |       |      8|      8|       |       |");
+    EXPECT_EQ(t[6], "|sobota,03,04,21      |       |       |       |       |       |       |       |");
     ASSERT_EQ(t.size(), 4u + 30 + 6);
-    EXPECT_EQ(t[35], "| Razem              |    176|      0|      0|    176|    176|      0|      0|");
+    EXPECT_EQ(t[35], "| Razem               |    176|      0|      0|    176|    176|      0|      0|");
+    EXPECT_EQ(t[5], "|piątek,02,04,21      |      8|       |       |      8|      8|       |       |");
+    EXPECT_EQ(t[8], "|poniedziałek,05,04,21|      8|       |       |      8|      8|       |       |");
     EXPECT_EQ(t[39], " ...............      Pracownik  ....................");
 }
