@@ -55,6 +55,7 @@ public:
     // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell. A multi-line text
     // box shows Rows lines.
     int Rows = 0, Cols = 0, Row = 0, Col = 0;
+    int VisibleRows = 0;  // grid: the rows shown without scrolling (else those it has when made)
     std::vector<std::vector<std::string>> Cells;
     std::vector<int> ColWidth;  // in characters
     // The look of a grid cell: background and letter colours as 0xRRGGBB (-1 for the grid's

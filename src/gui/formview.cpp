@@ -267,7 +267,9 @@ QWidget* FormView::make(Control& c) {
         t->setSelectionBehavior(QAbstractItemView::SelectItems);
         if (c.Mono) t->setFont(monoFont());
         t->verticalHeader()->setDefaultSectionSize(QFontMetrics(t->font()).height() + 8);
-        t->setMinimumHeight(QFontMetrics(t->font()).height() * 16);
+        // A grid whose rows are known when the screen is made shows them all, up to 20.
+        const int wiersz = QFontMetrics(t->font()).height() + 8;
+        t->setMinimumHeight(std::max(QFontMetrics(t->font()).height() * 16, std::min(std::max(c.Rows, c.VisibleRows + 1), 21) * wiersz + 12));
         if (c.Width > 0) t->setMinimumWidth(QFontMetrics(t->font()).horizontalAdvance('0') * c.Width);
         connect(t, &QTableWidget::cellClicked, this, [this, &c](int, int) { run(c, &Control::Click); });
         connect(t, &QTableWidget::cellDoubleClicked, this, [this, &c](int, int) { run(c, &Control::DblClick); });
@@ -295,6 +297,8 @@ QWidget* FormView::make(Control& c) {
         auto* cal = new QCalendarWidget(this);
         cal->setFirstDayOfWeek(Qt::Monday);
         cal->setGridVisible(true);
+        cal->setLocale(QLocale(QLocale::Polish, QLocale::Poland));
+        cal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
         connect(cal, &QCalendarWidget::clicked, this, [this, &c](QDate) { run(c, &Control::Click); });
         w = cal;
         break;

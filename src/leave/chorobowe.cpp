@@ -96,24 +96,31 @@ ChoroboweScreen::ChoroboweScreen(core::Dialogs& d, core::Session& session)
     fraPlatne.at(0, 0, 2);
     fraBezplatne.at(1, 0);
     fraSrednia.at(1, 1);
+    // The captions stand above the columns of the lines, in row 0 of each frame.
     const char* etykiety[] = {"średnia", "Il.dni", " od (ddmmrrrr)", "do (ddmmrrrr)", "kodSwiad", "Procent", "Kwota"};
+    for (int k = 0; k < 7; ++k)
+        for (const char* ramka : {"fraPlatne", "fraBezplatne"}) {
+            const bool platna = ramka == std::string("fraPlatne");
+            if (!platna && (k == 0 || k >= 5)) continue;
+            auto& c = naglowki_.emplace_back(std::make_unique<core::Control>(
+                this, std::string(platna ? "lbKolumna" : "lbKolumnaB") + std::to_string(k + 1), core::Kind::Label,
+                etykiety[k]));
+            c->in(ramka).at(0, platna ? k : k - 1);
+        }
     for (int n = 1; n <= 7; ++n) {
         Linia l = linia(n);
         core::Control* pola[] = {l.srednia, l.dni, l.od, l.doDnia, l.kod, l.procent, l.kwota};
         const bool platna = n <= 4;
-        const int wiersz = platna ? n - 1 : n - 5;
-        for (int k = 0; k < 7; ++k) {
-            core::Control* c = pola[k];
-            if (!c) continue;
-            c->in(platna ? "fraPlatne" : "fraBezplatne").at(wiersz, platna ? k : k - 1).width(k == 2 || k == 3 ? 9 : 7);
-            if (wiersz == 0) c->label(etykiety[k]);
-        }
+        const int wiersz = platna ? n : n - 4;
+        for (int k = 0; k < 7; ++k)
+            if (core::Control* c = pola[k])
+                c->in(platna ? "fraPlatne" : "fraBezplatne").at(wiersz, platna ? k : k - 1).width(k == 2 || k == 3 ? 9 : 6);
         const int nr = n;
         l.od->GotFocus = [this, nr] { wejscieOd(nr); };
         l.od->KeyEnter = [this, nr] { enterOd(nr); };
     }
-    LabelKody1.in("fraPlatne").at(4, 0, 7);
-    LabelKody2.in("fraPlatne").at(5, 0, 7);
+    LabelKody1.in("fraPlatne").at(5, 0, 7);
+    LabelKody2.in("fraPlatne").at(6, 0, 7);
     txtokresDo1.GotFocus = [this] { wejscieDo1(); };
     txtokresDo1.KeyEnter = [this] { enterDo1(); };
     txtokresDo1.Change = [this] { txtokresDo1_Change(false); };
@@ -125,7 +132,7 @@ ChoroboweScreen::ChoroboweScreen(core::Dialogs& d, core::Session& session)
     MonthView1.at(0, 2);
     MonthView2.at(1, 2);
     MonthView1.Visible = MonthView2.Visible = false;
-    MSFlexGrid9.at(2, 0, 3).width(120);
+    MSFlexGrid9.at(2, 0, 3).width(96);
     MSFlexGrid9.Visible = false;
     cmdWylaczHistorie_.Visible = false;
     cmdZapiszzmiany_.at(3, 0);

@@ -3,6 +3,8 @@
 // (frmSrednia). Everything is stored in the pay record; the screen has no file of its own.
 #pragma once
 #include <array>
+#include <memory>
+#include <vector>
 #include <string>
 
 #include "core/form.h"
@@ -114,6 +116,7 @@ public:
     core::Control cmdkoniec_{this, "cmdkoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
+    std::vector<std::unique_ptr<core::Control>> naglowki_;  // the column captions of the lines
     void otworzRekord(core::Record& r);
     void doRekordu(core::Record& r);
     void kwoty(core::Record& r);

@@ -37,7 +37,7 @@ CzasPracyScreen::CzasPracyScreen(core::Dialogs& d, core::Session& session)
     cmdNext_.at(0, 2);
     lbwskEtatu.at(0, 3).label("Wskaźnik etatu");
     lbIloscDniPracy.at(0, 4).label("Ilość dni pracy");
-    MSFlexGrid1.at(1, 0, 10).width(100);
+    MSFlexGrid1.at(1, 0, 10).width(106);
     MSFlexGrid1.Mono = true;
     cmdWstawG_.at(2, 0);
     cmdZeruj_.at(2, 1);
@@ -45,7 +45,7 @@ CzasPracyScreen::CzasPracyScreen(core::Dialogs& d, core::Session& session)
     cmdDrukCzasuPracy_.at(2, 3);
     cmdKoniec_.at(2, 4);
     MSFlexGrid1.setGrid(kWierszRazem + 1, KolCP::Count);
-    MSFlexGrid1.ColWidth = {3, 26, 4, 4, 4, 4, 5, 5, 4, 4, 6};
+    MSFlexGrid1.ColWidth = {3, 32, 4, 4, 4, 4, 5, 5, 4, 4, 6};
     cmdWroc_.Click = [this] { cmdWroc(); };
     cmdNext_.Click = [this] { cmdNext(); };
     cmdWstawG_.Click = [this] { cmdWstawG(); };

@@ -66,6 +66,7 @@ SredniaScreen::SredniaScreen(core::Dialogs& d, core::Session& session, core::Con
     : Form(d, "frmSrednia", "Średnia dzienna z 12 miesiecy "), s(session), cel_(cel) {
     MSFlexGrid7.at(0, 0, 2).width(100);
     MSFlexGrid7.Mono = true;
+    MSFlexGrid7.VisibleRows = 12;
     fraSumy.at(1, 0);
     txtRazeMPlaca.in("fraSumy").at(0, 0).label("Płaca *").width(10);
     txtRazemGodziny.in("fraSumy").at(1, 0).label("Godziny").width(10);

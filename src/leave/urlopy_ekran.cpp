@@ -40,7 +40,7 @@ UrlopyScreen::UrlopyScreen(core::Dialogs& d, core::Session& session)
     txtPodstawaBrutto.in("fraStawka").at(0).label("Aktualna podstawa brutto").width(10);
     txtUrlopowaStawka.in("fraStawka").at(1).label("Stawka dzienna  urlopu").width(10);
     Label1.in("fraStawka").at(2);
-    MSFlexGrid1.at(1, 0, 3).width(150);
+    MSFlexGrid1.at(1, 0, 3).width(176);  // every column without scrolling
     MSFlexGrid1.Mono = true;
     CmdWyliczkwoteUrlopu_.at(2, 0);
     cmdWstaw_.at(2, 1);
@@ -50,11 +50,11 @@ UrlopyScreen::UrlopyScreen(core::Dialogs& d, core::Session& session)
     CmdKoniec_.at(3, 2);
     MSFlexGrid1.setGrid(kWierszRazemU + 1, KolU::Count);
     MSFlexGrid1.ColWidth.assign(KolU::Count, 2);
-    MSFlexGrid1.ColWidth[0] = 11;
-    MSFlexGrid1.ColWidth[KolU::Stawka] = 7;
-    MSFlexGrid1.ColWidth[KolU::IlDni] = 6;
-    MSFlexGrid1.ColWidth[KolU::Kwota] = 8;
-    MSFlexGrid1.ColWidth[KolU::IlGodz] = 6;
+    MSFlexGrid1.ColWidth[0] = 13;
+    MSFlexGrid1.ColWidth[KolU::Stawka] = 6;
+    MSFlexGrid1.ColWidth[KolU::IlDni] = 5;
+    MSFlexGrid1.ColWidth[KolU::Kwota] = 7;
+    MSFlexGrid1.ColWidth[KolU::IlGodz] = 5;
     MSFlexGrid1.DblClick = [this] { MSFlexGrid1_DblClick(); };
     CmdZmiany_.Click = [this] { CmdZmiany(); };
     CmdWyliczkwoteUrlopu_.Click = [this] { CmdWyliczkwoteUrlopu(); };
@@ -119,7 +119,7 @@ void UrlopyScreen::koloruj(int m, int d) {
     if (kod == "X") st.back = kKolorBrakDnia;
     else if (dzienWolny(rok_, m, d)) st.back = kKolorWolne;
     if (kod == "S") st.back = kKolorNiebieski, st.fore = kKolorBialy, st.bold = true;
-    if (urlop(kod)) st.back = kKolorUrlop, st.bold = true;
+    if (urlop(kod)) st.back = kKolorUrlop;
     MSFlexGrid1.Style(m, d) = st;
 }
 
