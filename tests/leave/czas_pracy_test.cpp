@@ -74,8 +74,6 @@ TEST(WorkingTime, MonthGridAndDefaults) {
         EXPECT_EQ(e.kom(d, KolCP::Lpg), "8");
     }
     EXPECT_EQ(osemki, 21);  // 22 working days less the holiday
-    EXPECT_EQ(e.kom(3, KolCP::Swieto), "S");
-    EXPECT_EQ(e.kom(31, KolCP::Gp), "");
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::Gp), "168");
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::Swieto), "1");
     EXPECT_EQ(e.f->lbIloscDniPracy.Caption, "21");
@@ -88,7 +86,6 @@ TEST(WorkingTime, MonthGridAndDefaults) {
 
 TEST(WorkingTime, EntriesByColumnAndSaving) {
     Ekran e("31-03-2021");
-    EXPECT_EQ(e.f->MSFlexGrid1.Rows, 33);
     e.f->cmdWstawG();
     auto wpisz = [&](int r, int c, std::optional<std::string> t) {
         e.f->MSFlexGrid1.Row = r;
@@ -129,7 +126,6 @@ TEST(WorkingTime, EntriesByColumnAndSaving) {
     // Saving again without a change gives the same bytes; the days of another month stay.
     e.f->cmdZapiszZmiany();
     EXPECT_EQ(readBytes(e.plik), po);
-    EXPECT_TRUE(std::filesystem::exists(e.plik.parent_path()));
 }
 
 TEST(WorkingTime, PrintedMonth) {
