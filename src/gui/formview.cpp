@@ -9,7 +9,9 @@
 #include <QEvent>
 #include <QFileSystemModel>
 #include <QFontDatabase>
+#include <QColor>
 #include <QGridLayout>
+#include <QPalette>
 #include <QScrollBar>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -39,6 +41,9 @@ using core::Control;
 using core::Kind;
 
 namespace {
+
+// A colour value of the classic controls (0xBBGGRR).
+QColor vbColor(long v) { return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF); }
 
 std::map<core::Form*, FormView*>& views() {
     static std::map<core::Form*, FormView*> v;
@@ -249,6 +254,7 @@ QWidget* FormView::make(Control& c) {
         auto* cb = new QComboBox(this);
         if (c.Mono) cb->setFont(monoFont());
         cb->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        cb->setEditable(c.Editable);
         if (c.Width > 0) cb->setMinimumWidth(QFontMetrics(cb->font()).horizontalAdvance('0') * (c.Width + 4));
         connect(cb, &QComboBox::activated, this, [this, &c](int) { run(c, &Control::Click); });
         w = cb;
@@ -371,7 +377,15 @@ void FormView::pushOne(Control& c, QWidget* w) {
     w->setToolTip(q(c.ToolTipText));
     if (auto l = labels_.find(c.Name); l != labels_.end()) l->second->setVisible(c.Visible);
     switch (c.kind) {
-    case Kind::Label: static_cast<QLabel*>(w)->setText(labelText(c.Caption)); break;
+    case Kind::Label:
+        static_cast<QLabel*>(w)->setText(labelText(c.Caption));
+        if (c.BackColor >= 0) {
+            w->setAutoFillBackground(true);
+            QPalette pal = w->palette();
+            pal.setColor(QPalette::Window, vbColor(c.BackColor));
+            w->setPalette(pal);
+        }
+        break;
     case Kind::TextBox:
         if (auto* e = qobject_cast<QLineEdit*>(w)) {
             if (e->text() != q(c.Text)) e->setText(q(c.Text));
@@ -416,7 +430,8 @@ void FormView::pushOne(Control& c, QWidget* w) {
         int idx = c.ListIndex;
         if (idx < 0 && !c.Text.empty()) idx = cb->findText(q(c.Text));
         cb->setCurrentIndex(idx);
-        if (idx < 0) cb->setPlaceholderText(q(c.Text));
+        if (c.Editable && cb->currentText() != q(c.Text)) cb->setEditText(q(c.Text));
+        else if (idx < 0) cb->setPlaceholderText(q(c.Text));
         break;
     }
     case Kind::Frame: static_cast<QGroupBox*>(w)->setTitle(labelText(c.Caption)); break;
@@ -435,8 +450,14 @@ void FormView::pushOne(Control& c, QWidget* w) {
                 QTableWidgetItem* it = t->item(r - 1, col);
                 if (!it) t->setItem(r - 1, col, it = new QTableWidgetItem);
                 if (it->text() != q(c.Cells[r][col])) it->setText(q(c.Cells[r][col]));
+                // A cell's own colour first, else the colour of its row.
                 const Control::CellStyle& st = c.Style(r, col);
-                it->setBackground(st.back < 0 ? QBrush() : QBrush(QColor::fromRgb(static_cast<QRgb>(st.back))));
+                if (st.back >= 0)
+                    it->setBackground(QBrush(QColor::fromRgb(static_cast<QRgb>(st.back))));
+                else if (r < static_cast<int>(c.RowColor.size()) && c.RowColor[r] >= 0)
+                    it->setBackground(vbColor(c.RowColor[r]));
+                else
+                    it->setBackground(QBrush());
                 it->setForeground(st.fore < 0 ? QBrush() : QBrush(QColor::fromRgb(static_cast<QRgb>(st.fore))));
                 if (it->font().bold() != st.bold) {
                     QFont f = t->font();
@@ -528,7 +549,7 @@ void FormView::pullOne(Control& c, QWidget* w) {
     case Kind::ComboBox: {
         auto* cb = static_cast<QComboBox*>(w);
         c.ListIndex = cb->currentIndex();
-        if (c.ListIndex >= 0) c.Text = s(cb->currentText());
+        if (c.ListIndex >= 0 || c.Editable) c.Text = s(cb->currentText());
         break;
     }
     case Kind::Grid: {

@@ -1,11 +1,15 @@
 #include "gui/routes.h"
 
 #include "leave/screens.h"
+#include "bank/screens.h"
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
 #include "printing/screens.h"
 #include "reference/screens.h"
+#include "trips/screens.h"
+#include "tax/screens.h"
+#include "zus/screens.h"
 
 namespace gui {
 
@@ -16,6 +20,10 @@ void registerAllScreens(core::Screens& screens) {
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
     leave::registerScreens(screens);
+    trips::registerScreens(screens);
+    tax::registerScreens(screens);
+    bank::registerScreens(screens);
+    zus::registerScreens(screens);
 }
 
 }  // namespace gui
