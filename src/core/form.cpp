@@ -18,6 +18,7 @@ void Control::setGrid(int rows, int cols) {
     Rows = rows;
     Cols = cols;
     Cells.assign(static_cast<std::size_t>(rows), std::vector<std::string>(static_cast<std::size_t>(cols)));
+    Styles.assign(static_cast<std::size_t>(rows), std::vector<CellStyle>(static_cast<std::size_t>(cols)));
     if (static_cast<int>(ColWidth.size()) != cols) ColWidth.resize(static_cast<std::size_t>(cols), 10);
 }
 
@@ -27,6 +28,16 @@ std::string& Control::TextMatrix(int r, int c) {
                     "komórka poza siatką");
     return Cells[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)];
 }
+
+Control::CellStyle& Control::Style(int r, int c) {
+    TextMatrix(r, c);  // the same bounds
+    if (Styles.size() != Cells.size()) Styles.resize(Cells.size());
+    auto& row = Styles[static_cast<std::size_t>(r)];
+    if (static_cast<int>(row.size()) < Cols) row.resize(static_cast<std::size_t>(Cols));
+    return row[static_cast<std::size_t>(c)];
+}
+
+const Control::CellStyle& Control::Style(int r, int c) const { return const_cast<Control*>(this)->Style(r, c); }
 
 const std::string& Control::TextMatrix(int r, int c) const {
     return const_cast<Control*>(this)->TextMatrix(r, c);

@@ -56,8 +56,19 @@ public:
     // Grid: Rows x Cols cells, row 0 the headings; Row/Col the current cell. A multi-line text
     // box shows Rows lines.
     int Rows = 0, Cols = 0, Row = 0, Col = 0;
+    int VisibleRows = 0;  // grid: the rows shown without scrolling (else those it has when made)
     std::vector<std::vector<std::string>> Cells;
     std::vector<int> ColWidth;  // in characters
+    // The look of a grid cell: background and letter colours as 0xRRGGBB (-1 for the grid's
+    // own), bold letters. Kept beside the cells and reset with them by setGrid.
+    struct CellStyle {
+        int back = -1, fore = -1;
+        bool bold = false;
+        bool operator==(const CellStyle&) const = default;
+    };
+    std::vector<std::vector<CellStyle>> Styles;
+    CellStyle& Style(int r, int c);
+    const CellStyle& Style(int r, int c) const;
     std::string& TextMatrix(int r, int c);
     const std::string& TextMatrix(int r, int c) const;
     void setGrid(int rows, int cols);
@@ -84,7 +95,7 @@ public:
     int Field = 0;
 
     // Events.
-    std::function<void()> Click, DblClick, Change, KeyEnter, LostFocus, Tick;
+    std::function<void()> Click, DblClick, Change, KeyEnter, GotFocus, LostFocus, Tick;
 
     // Fluent placement used by the screens' constructors.
     Control& at(int row, int slot = 0, int span = 1) {

@@ -273,7 +273,9 @@ QWidget* FormView::make(Control& c) {
         t->setSelectionBehavior(QAbstractItemView::SelectItems);
         if (c.Mono) t->setFont(monoFont());
         t->verticalHeader()->setDefaultSectionSize(QFontMetrics(t->font()).height() + 8);
-        t->setMinimumHeight(QFontMetrics(t->font()).height() * 16);
+        // A grid whose rows are known when the screen is made shows them all, up to 20.
+        const int wiersz = QFontMetrics(t->font()).height() + 8;
+        t->setMinimumHeight(std::max(QFontMetrics(t->font()).height() * 16, std::min(std::max(c.Rows, c.VisibleRows + 1), 21) * wiersz + 12));
         if (c.Width > 0) t->setMinimumWidth(QFontMetrics(t->font()).horizontalAdvance('0') * c.Width);
         connect(t, &QTableWidget::cellClicked, this, [this, &c](int, int) { run(c, &Control::Click); });
         connect(t, &QTableWidget::cellDoubleClicked, this, [this, &c](int, int) { run(c, &Control::DblClick); });
@@ -301,6 +303,8 @@ QWidget* FormView::make(Control& c) {
         auto* cal = new QCalendarWidget(this);
         cal->setFirstDayOfWeek(Qt::Monday);
         cal->setGridVisible(true);
+        cal->setLocale(QLocale(QLocale::Polish, QLocale::Poland));
+        cal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
         connect(cal, &QCalendarWidget::clicked, this, [this, &c](QDate) { run(c, &Control::Click); });
         w = cal;
         break;
@@ -446,8 +450,20 @@ void FormView::pushOne(Control& c, QWidget* w) {
                 QTableWidgetItem* it = t->item(r - 1, col);
                 if (!it) t->setItem(r - 1, col, it = new QTableWidgetItem);
                 if (it->text() != q(c.Cells[r][col])) it->setText(q(c.Cells[r][col]));
-                if (r < static_cast<int>(c.RowColor.size()) && c.RowColor[r] >= 0)
+                // A cell's own colour first, else the colour of its row.
+                const Control::CellStyle& st = c.Style(r, col);
+                if (st.back >= 0)
+                    it->setBackground(QBrush(QColor::fromRgb(static_cast<QRgb>(st.back))));
+                else if (r < static_cast<int>(c.RowColor.size()) && c.RowColor[r] >= 0)
                     it->setBackground(vbColor(c.RowColor[r]));
+                else
+                    it->setBackground(QBrush());
+                it->setForeground(st.fore < 0 ? QBrush() : QBrush(QColor::fromRgb(static_cast<QRgb>(st.fore))));
+                if (it->font().bold() != st.bold) {
+                    QFont f = t->font();
+                    f.setBold(st.bold);
+                    it->setFont(f);
+                }
             }
         if (c.Row >= 1 && c.Row < c.Rows) t->setCurrentCell(c.Row - 1, c.Col);
         break;
@@ -594,6 +610,8 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
         Control& c = *it->second;
         if (event->type() == QEvent::MouseButtonPress && c.Click) {
             QTimer::singleShot(0, this, [this, &c] { run(c, &Control::Click); });
+        } else if (event->type() == QEvent::FocusIn && c.GotFocus) {
+            QTimer::singleShot(0, this, [this, &c] { run(c, &Control::GotFocus); });
         } else if (event->type() == QEvent::FocusOut && c.LostFocus) {
             QTimer::singleShot(0, this, [this, &c] { run(c, &Control::LostFocus); });
         }

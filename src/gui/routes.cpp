@@ -1,5 +1,6 @@
 #include "gui/routes.h"
 
+#include "leave/screens.h"
 #include "bank/screens.h"
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
@@ -18,6 +19,7 @@ void registerAllScreens(core::Screens& screens) {
     payinputs::registerScreens(screens);
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
+    leave::registerScreens(screens);
     trips::registerScreens(screens);
     tax::registerScreens(screens);
     bank::registerScreens(screens);

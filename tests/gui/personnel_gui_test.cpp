@@ -62,7 +62,7 @@ TEST(Osoba1Gui, PersonOfTheDemoListAndItsScreens) {
     EXPECT_TRUE(placa->isEnabled());
     EXPECT_TRUE(dlg.findChild<QAction*>("potr")->isEnabled());
     EXPECT_TRUE(dlg.findChild<QAction*>("Zasilki")->isEnabled());
-    EXPECT_FALSE(dlg.findChild<QAction*>("chorobowe")->isEnabled());
+    EXPECT_TRUE(dlg.findChild<QAction*>("chorobowe")->isEnabled());
     EXPECT_FALSE(dlg.findChild<QAction*>("Roczna")->isEnabled());
     gui_support::grab(&dlg, "frmOsoba1");
 
