@@ -94,7 +94,7 @@ int worktime(cli::Context& c) {
     for (const std::string& a : c.args) (a == "--defaults" ? (void)(domyslne = true) : rest.push_back(a));
     c.args = rest;
     if (c.args.size() != 3) throw cli::Usage("worktime wymaga nazwy listy, identyfikatora osoby i miesiąca");
-    const int miesiac = static_cast<int>(core::Val(c.args[2]));
+    const int miesiac = core::ValInt(c.args[2], "worktime");
     if (miesiac < 1 || miesiac > 12 || !core::isNumeric(c.args[2])) throw cli::Usage("miesiąc to liczba od 1 do 12");
     wybierz(c, "worktime");
     leave::CzasPracyScreen f(c.dialogs, c.session);

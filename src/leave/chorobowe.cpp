@@ -158,7 +158,7 @@ double ChoroboweScreen::sumaDni() const {
 }
 
 int ChoroboweScreen::dniMiesiacaListy() const {
-    const int r = static_cast<int>(core::Val(s.rok())), m = static_cast<int>(core::Val(s.miesiac()));
+    const int r = core::ValInt(s.rok(), "frmChorobowe"), m = core::ValInt(s.miesiac(), "frmChorobowe");
     int d = 31;
     while (d > 28 && !core::validDate({r, m, d})) --d;
     return d;
@@ -418,7 +418,7 @@ void ChoroboweScreen::cmdWprowadzDoCzasuPracy() {
         const auto plik = CzasPracy::path(s, s.rok());
         std::vector<CzasPracy::Blok> bloki = CzasPracy::readAll(plik);
         const std::string tym = CzasPracy::nazwaTymczasowa(s, s.rok(), true);
-        const int m = static_cast<int>(core::Val(s.miesiac()));
+        const int m = core::ValInt(s.miesiac(), "frmChorobowe");
         core::SeqWriter w;
         for (const CzasPracy::Blok& b : bloki) {
             if (b.identyfikator() != s.KluczOsoby || m < 1 || m > 12) {

@@ -58,8 +58,8 @@ CzasPracyScreen::CzasPracyScreen(core::Dialogs& d, core::Session& session)
 
 void CzasPracyScreen::Load() {
     Caption = "Rozliczenie czasu pracy dla " + s.NazwiskoOsoby + " " + s.ImieOsoby;
-    rok_ = static_cast<int>(core::Val(s.rok()));
-    miesiac = static_cast<int>(core::Val(s.miesiac()));
+    rok_ = core::ValInt(s.rok(), "frmCzasPracy");
+    miesiac = core::ValInt(s.miesiac(), "frmCzasPracy");
     if (miesiac < 1 || miesiac > 12) miesiac = 1;
     guarded([&] {
         if (!s.Osoba.Otwarty) personnel::wczytajEkranOsoby(s);

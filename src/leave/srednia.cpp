@@ -116,8 +116,8 @@ void SredniaScreen::wiersz(const std::vector<std::string>& komorki) {
 void SredniaScreen::cmdWylicz() {
     if (MSFlexGrid7.Rows > 1) return;
     guarded([&] {
-        const int M = static_cast<int>(core::Val(s.miesiac()));
-        const int Y = static_cast<int>(core::Val(core::Right(s.rok(), 2)));
+        const int M = core::ValInt(s.miesiac(), "frmSrednia");
+        const int Y = core::ValInt(core::Right(s.rok(), 2), "frmSrednia");
         float placa = 0, godz = 0, dod = 0;  // the cells' values, kept from row to row
         double sumaP = 0, sumaG = 0, sumaD = 0;
         int miesiecy = 0;
@@ -178,7 +178,7 @@ void SredniaScreen::srednia(float netto, int miesiecy) {
 void SredniaScreen::CmdWyliczSrednia() {
     const double placa = val(txtRazeMPlaca.Text), godz = val(txtRazemGodziny.Text), dod = val(txtRazemDodatki.Text);
     const double dwunasta = val(txtTrzynastka.Text) / 12;
-    const int miesiecy = static_cast<int>(core::Val(LbiloscMiesiecy.Caption));
+    const int miesiecy = core::ValInt(LbiloscMiesiecy.Caption, "frmSrednia");
     const float udzial = core::Round2(dwunasta * miesiecy);
     const float ogolem = core::Round2(placa + godz + dod + udzial);
     txtOgolem.Text = kwota(ogolem);
@@ -204,7 +204,7 @@ void SredniaScreen::cmdPobierzIloscdni() {
             }
             std::vector<CzasPracy::Blok> bloki = CzasPracy::readAll(plik);
             const CzasPracy::Blok* b = CzasPracy::znajdz(bloki, s.KluczOsoby);
-            const int m = static_cast<int>(core::Val(core::Right(okres, 2)));
+            const int m = core::ValInt(core::Right(okres, 2), "frmSrednia");
             if (!b || m < 1 || m > 12) continue;
             int nieobecne = 0, chorobowe = 0, przepracowane = 0;
             for (const core::Record& d : b->dni[m - 1]) {

@@ -67,8 +67,8 @@ UrlopyScreen::UrlopyScreen(core::Dialogs& d, core::Session& session)
 
 void UrlopyScreen::Load() {
     Caption = "Urlopy " + s.NazwiskoOsoby + " " + s.ImieOsoby;
-    rok_ = static_cast<int>(core::Val(s.rok()));
-    miesiacListy_ = static_cast<int>(core::Val(s.miesiac()));
+    rok_ = core::ValInt(s.rok(), "frmUrlopy");
+    miesiacListy_ = core::ValInt(s.miesiac(), "frmUrlopy");
     if (miesiacListy_ < 1 || miesiacListy_ > 12) miesiacListy_ = 1;
     guarded([&] {
         core::ensureFolder(s.payerFolder(), {"Urlopy"});
