@@ -5,6 +5,7 @@
 #include "personnel/screens.h"
 #include "printing/screens.h"
 #include "reference/screens.h"
+#include "yearledger/screens.h"
 
 namespace gui {
 
@@ -14,6 +15,7 @@ void registerAllScreens(core::Screens& screens) {
     payinputs::registerScreens(screens);
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
+    yearledger::registerScreens(screens);
 }
 
 }  // namespace gui
