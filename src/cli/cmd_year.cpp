@@ -4,6 +4,8 @@
 
 #include "cli/cli.h"
 #include "core/error.h"
+#include "core/numbers.h"
+#include "documents/zaswiadczenia.h"
 #include "core/paths.h"
 #include "core/text.h"
 #include "paycalc/karta_record.h"
@@ -107,6 +109,35 @@ int wyzeruj(cli::Context& c) {
     return 0;
 }
 
+int zaswiadczenie(cli::Context& c) {
+    c.takePrintOptions();
+    documents::Wlaczone w;
+    std::string cel = documents::kCelPropozycja;
+    std::vector<std::string> args;
+    for (std::size_t i = 0; i < c.args.size(); ++i) {
+        const std::string& a = c.args[i];
+        if (a == "--thirteenth") w.trzynastka = true;
+        else if (a == "--holiday") w.urlopowe = true;
+        else if (a == "--purpose") {
+            if (i + 1 >= c.args.size()) throw cli::Usage("brak tekstu po --purpose");
+            cel = c.args[++i];
+            if (cel.empty()) cel = documents::kCelPusty;
+        } else args.push_back(a);
+    }
+    if (args.size() != 4) throw cli::Usage("certificate: zła liczba argumentów");
+    for (const std::string& m : {args[2], args[3]})
+        if (documents::miesiaceOkresu(m, m).empty()) throw cli::Usage("miesiąc podaj jako mmRR, np. 0320: " + m);
+    if (documents::miesiaceOkresu(args[2], args[3]).empty()) throw cli::Usage("okres od " + args[2] + " do " + args[3] + " jest pusty");
+    otworzOsobe(c, args[0], args[1]);
+    core::Session& s = c.session;
+    const documents::Sumy sumy = documents::pobierzDane(s, s.NazwaZbioru, s.KluczOsoby, args[2], args[3], w);
+    if (!documents::drukujDlaOsoby(s, c.dialogs, sumy, args[2], args[3], cel, 0,
+                                   core::FormatDate(core::today(), "dd-mm-yyyy")))
+        return 1;
+    c.emitPrint();
+    return 0;
+}
+
 cli::Register r1("year-ledger", {"year-ledger LISTA IDENTYFIKATOR [ROK] [--out PLIK | --pdf PLIK]",
                                  "kartoteka roczna osoby z kartotek miesięcznych: tabela miesięcy z wierszem "
                                  "\"Razem\" (kolumny rozdzielone tabulatorem) albo wydruk (--out/--pdf, pytanie: --yes)",
@@ -114,5 +145,11 @@ cli::Register r1("year-ledger", {"year-ledger LISTA IDENTYFIKATOR [ROK] [--out P
 cli::Register r2("blank-month", {"blank-month LISTA IDENTYFIKATOR RRMM",
                                  "zeruje kwoty osoby w kartotece miesiąca RRMM (zapis zostaje, etat \"  /  \")",
                                  wyzeruj});
+cli::Register r3("certificate",
+                 {"certificate LISTA IDENTYFIKATOR OD DO [--thirteenth] [--holiday] [--purpose TEKST] [--out PLIK | --pdf PLIK]",
+                  "zaświadczenie o zatrudnieniu i zarobkach za miesiące OD-DO (mmRR, także przez przełom roku) z kartotek "
+                  "i list dodatkowych; --thirteenth dolicza trzynastkę roku, --holiday świadczenia urlopowe i nagrody "
+                  "jubileuszowe; wymaga danych kadrowych osoby (person/<lista>.kdr)",
+                  zaswiadczenie});
 
 }  // namespace

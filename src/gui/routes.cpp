@@ -1,5 +1,6 @@
 #include "gui/routes.h"
 
+#include "documents/screens.h"
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
@@ -16,6 +17,7 @@ void registerAllScreens(core::Screens& screens) {
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
     yearledger::registerScreens(screens);
+    documents::registerScreens(screens);
 }
 
 }  // namespace gui
