@@ -18,7 +18,7 @@ const char* const kTytul = "Dane kadrowe";
 
 KadryScreen::KadryScreen(core::Dialogs& ui, core::Session& session)
     : Form(ui, "frmKadryII", "Dane kadrowe"), s(session) {
-    cboOsoba.at(0, 0, 2).label("Pracownik:").width(90);
+    cboOsoba.at(0, 0, 2).label("Pracownik:").width(80);
     cboOsoba.Mono = true;
     lbOsoba.at(1, 0, 2);
     txtZatrudnionyOd.at(2, 0).label("Zatrudniony od (dd-mm-rrrr):").width(12);
