@@ -17,6 +17,7 @@
 #include "personnel/kadry.h"
 #include "personnel/kadry_record.h"
 #include "personnel/person_record.h"
+#include "reference/rates.h"
 #include "support/scripted.h"
 #include "yearledger/edycja.h"
 #include "yearledger/kartoteka_roczna.h"
@@ -51,6 +52,9 @@ struct Rok {
 
 TEST(RokGui, YearlyLedgerWithItsGridsAndTheEditor) {
     Rok r;
+    // The demo year 2020.
+    r.demo.session.DataListy = "31-12-2020";
+    reference::loadRates(r.demo.session);
     yearledger::KartotekaRocznaScreen screen(r.ui, r.demo.session);
     gui::ScreenDialog dlg(screen, nullptr);
     dlg.view()->runWork([&] { screen.Load(); });
@@ -58,8 +62,9 @@ TEST(RokGui, YearlyLedgerWithItsGridsAndTheEditor) {
     auto* grid = dlg.findChild<QTableWidget*>("MSFlexGrid1");
     ASSERT_EQ(grid->rowCount(), 13);
     EXPECT_EQ(grid->horizontalHeaderItem(9)->text(), "Wychowaw");
-    EXPECT_EQ(grid->item(0, 3)->text(), "5200.00");
+    EXPECT_EQ(grid->item(1, 3)->text(), "5200.00");
     EXPECT_EQ(grid->item(12, 0)->text(), "Razem");
+    EXPECT_EQ(grid->item(12, 3)->text(), "62400.00");
     EXPECT_FALSE(dlg.findChild<QPushButton*>("CmdPit11")->isEnabled());
     EXPECT_FALSE(dlg.findChild<QTableWidget*>("MSFlexGrid9")->isVisibleTo(&dlg));
     dlg.findChild<QPushButton*>("cmdGodziny")->click();
