@@ -1,5 +1,7 @@
 #include "rok_fixture.h"
 
+#include <filesystem>
+
 #include "core/paths.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
@@ -66,6 +68,10 @@ core::Record dodatkowy(std::vector<std::pair<int, double>> pola) {
 
 Rok::Rok() {
     testing_support::copyTree(PENSJA_DEMO, dir.path());
+    // The year is made here alone: the demo year's ledgers and supplementary files go.
+    for (const char* f : {"Karta", "Godziny", "Dodatki", "Trzynastki", "Jubileu", "Urlopy"})
+        for (const auto& e : std::filesystem::directory_iterator(dir.path() / "DEMO" / f))
+            if (e.path().extension() == ".dta") std::filesystem::remove(e.path());
     s.WorkDir = dir.path();
     s.takeInstalka(core::Instalka::read(dir.path()));
     s.DataListy = "31-12-2020";
