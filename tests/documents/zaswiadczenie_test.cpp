@@ -178,7 +178,7 @@ TEST(Zaswiadczenie, PrintMatchesTheReferenceFile) {
     z.miejscowosc = "Myślenice";
     drukujZaswiadczenie(d.ui.paper, pobierzDane(d.s, "a", kPani, "1220", "0121", {true, false, true}), z);
     const std::string tekst = d.ui.paper.text();
-    const fs::path wzor = fs::path(__FILE__).parent_path() / "data" / "zaswiadczenie.txt";
+    const fs::path wzor = fs::path(PENSJA_TEST_DATA).parent_path() / "documents" / "data" / "zaswiadczenie.txt";
     if (tekst != testing_support::readBytes(wzor)) {
         fs::create_directories("documents_actual");
         std::ofstream(fs::path("documents_actual") / "zaswiadczenie.txt", std::ios::binary) << tekst;

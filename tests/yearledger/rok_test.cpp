@@ -184,7 +184,7 @@ TEST(KartotekaRoczna, PrintMatchesTheReferenceFile) {
     f.CmdDrukowanie();
     EXPECT_EQ(r.ui.boxes.front().title, "Kartoteka KOWALSKI JAN");
     const std::string tekst = r.ui.paper.text();
-    const fs::path wzor = fs::path(__FILE__).parent_path() / "data" / "kartoteka_roczna.txt";
+    const fs::path wzor = fs::path(PENSJA_TEST_DATA).parent_path() / "yearledger" / "data" / "kartoteka_roczna.txt";
     const std::string oczekiwany = testing_support::readBytes(wzor);
     if (tekst != oczekiwany) {
         fs::create_directories("yearledger_actual");
