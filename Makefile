@@ -11,7 +11,7 @@ PACKAGES = cmake ninja-build g++ pkg-config qt6-base-dev qt6-base-dev-tools libg
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test test-asan bench clean
+.PHONY: all deps configure build run test test-asan bench package clean
 
 all: build
 
@@ -45,6 +45,10 @@ test-asan: deps
 	  -DPENSJA_SANITIZE=ON -DPENSJA_GUI=OFF -DPENSJA_BENCH=OFF
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 	cd $(ASAN_BUILD) && LANG=C.UTF-8 TZ=Europe/Warsaw ctest --output-on-failure -j $(JOBS)
+
+# The Debian package pensja_<version>_<arch>.deb in the build folder.
+package: build
+	cd $(BUILD) && cpack -G DEB
 
 # Benchmarks on generated data.
 bench: build

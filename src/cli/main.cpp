@@ -76,6 +76,34 @@ static void usage(std::ostream& out) {
     for (auto& [name, c] : cli::commands()) out << "  " << c.usage << "\n      " << c.summary << "\n";
 }
 
+// The manual page, from the same table as --help.
+static std::string roff(const std::string& text) {
+    std::string out;
+    for (char ch : text) {
+        if (ch == '\\') out += "\\e";
+        else if (ch == '-') out += "\\-";
+        else out += ch;
+    }
+    if (!out.empty() && (out[0] == '.' || out[0] == '\'')) out = "\\&" + out;
+    return out;
+}
+
+static void manual(std::ostream& out) {
+    out << ".TH PENSJA\\-CLI 1 \"\" \"pensja\" \"Polecenia programu pensja\"\n"
+           ".SH NAZWA\npensja\\-cli \\- polecenia wsadowe programu płacowo\\-kadrowego pensja\n"
+           ".SH SKŁADNIA\n.B pensja\\-cli\n"
+        << roff("[--data FOLDER] [--payer SKRÓT] [--date dd-mm-rrrr] [--yes|--no] POLECENIE [ARGUMENTY]") << "\n"
+        << ".SH OPIS\n"
+        << roff("Wykonuje polecenia programu pensja bez okien, na tych samych plikach danych. "
+                "Bez --data folder danych ustala się jak przy starcie programu (instalka.dat w folderze roboczym); "
+                "--payer i --date zmieniają sesję tylko na to wywołanie. Każde okno komunikatu trafia na "
+                "standardowe wyjście błędów jako [tytuł] tekst; na pytania odpowiada --yes lub --no.")
+        << "\n.SH POLECENIA\n";
+    for (auto& [name, c] : cli::commands()) out << ".TP\n.B " << roff(c.usage) << "\n" << roff(c.summary) << "\n";
+    out << ".SH KOD WYJŚCIA\n0 sukces, 1 polecenie zakończone komunikatem o błędzie, 2 złe argumenty.\n"
+           ".SH ZOBACZ TAKŻE\n.BR pensja (1)\n";
+}
+
 int main(int argc, char** argv) {
     cli::Context ctx;
     std::string command;
@@ -101,6 +129,9 @@ int main(int argc, char** argv) {
                 ctx.dialogs.answer = false;
             } else if (a == "--help" || a == "-h") {
                 usage(std::cout);
+                return 0;
+            } else if (a == "--man") {
+                manual(std::cout);
                 return 0;
             } else if (!a.empty() && a[0] == '-') {
                 throw cli::Usage("nieznana opcja " + a);

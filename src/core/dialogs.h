@@ -25,6 +25,11 @@ public:
     // The typed text, or nothing when the operator cancelled.
     virtual std::optional<std::string> inputBox(const std::string& prompt, const std::string& title = {},
                                                 const std::string& def = {}) = 0;
+    // A folder chosen by the operator (a folder dialog in the program), or nothing when
+    // cancelled. Where no such dialog exists the folder is typed in an input box.
+    virtual std::optional<std::string> folderBox(const std::string& title, const std::string& start = {}) {
+        return inputBox("Folder:", title, start);
+    }
     // Shows a screen modally and returns when it is closed.
     virtual void showForm(Form& form) = 0;
     // Lets a screen busy with long work show its controls' new state (a progress bar).

@@ -1,6 +1,8 @@
 // pensja: the desktop program. Started in the working folder, which holds (or points through
 // instalka.dat to) the data folder.
 #include <QApplication>
+#include <QDir>
+#include <QSettings>
 #include <QTimer>
 #include <filesystem>
 
@@ -8,16 +10,37 @@
 #include "gui/mainwindow.h"
 #include "gui/qtdialogs.h"
 #include "gui/routes.h"
+#include "reference/folder_danych.h"
 #include "reference/place.h"
+
+namespace fs = std::filesystem;
+
+// Started from the desktop menu the working folder is the home folder, which holds no data:
+// the folder chosen once is remembered, and the first time the operator is asked for it.
+static void przejdzDoFolderuDanych(core::Dialogs& ui) {
+    if (reference::jestFolderemDanych(fs::current_path())) return;
+    QSettings ustawienia("pensja", "pensja");
+    fs::path zapamietany = ustawienia.value("folderDanych").toString().toStdString();
+    if (zapamietany.empty() || !reference::jestFolderemDanych(zapamietany)) {
+        fs::path demo = reference::folderDemo(QCoreApplication::applicationDirPath().toStdString());
+        fs::path domyslny = fs::path(QDir::homePath().toStdString()) / "pensja-dane";
+        auto wybrany = reference::wybierzFolderDanych(ui, demo, domyslny);
+        if (!wybrany) return;
+        zapamietany = fs::absolute(*wybrany);
+        ustawienia.setValue("folderDanych", QString::fromStdString(zapamietany.string()));
+    }
+    fs::current_path(zapamietany);
+}
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("pensja");
+    gui::QtDialogs dialogs;
+    przejdzDoFolderuDanych(dialogs);
     core::Session session;
     session.WorkDir = std::filesystem::current_path();
     core::Screens screens;
     gui::registerAllScreens(screens);
-    gui::QtDialogs dialogs;
     dialogs.screens = &screens;
     reference::PlaceScreen place(dialogs, session);
     gui::MainWindow win(place);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -91,6 +92,12 @@ std::optional<std::string> QtDialogs::inputBox(const std::string& prompt, const 
     dlg.setCancelButtonText("Anuluj");
     if (dlg.exec() != QDialog::Accepted) return std::nullopt;
     return s(dlg.textValue());
+}
+
+std::optional<std::string> QtDialogs::folderBox(const std::string& title, const std::string& start) {
+    QString dir = QFileDialog::getExistingDirectory(activeParent(), q(title), q(start));
+    if (dir.isEmpty()) return std::nullopt;
+    return s(dir);
 }
 
 void QtDialogs::showForm(core::Form& form) {

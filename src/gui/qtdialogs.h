@@ -32,6 +32,7 @@ public:
     }
     core::Answer msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) override;
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title, const std::string& def) override;
+    std::optional<std::string> folderBox(const std::string& title, const std::string& start) override;
     void showForm(core::Form& form) override;
     void doEvents(core::Form& form) override;
     core::Printer& printer() override { return printer_; }
