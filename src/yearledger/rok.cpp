@@ -342,7 +342,7 @@ bool wyzerujMiesiac(const core::Session& s, const std::string& lista, const std:
         }
         r.set(K::Etat, "  /  ");
     }
-    core::writeAll(plik, recs, "tym" + lista + ".dta");
+    if (jest) core::writeAll(plik, recs, "tym" + lista + ".dta");
     return jest;
 }
 
