@@ -2,6 +2,7 @@
 // blanking of a month and the earnings certificate, with their wrong arguments.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 
 #include "support/run.h"
@@ -45,6 +46,7 @@ TEST(YearCli, GridBlankingAndCertificate) {
     EXPECT_NE(testing_support::readBytes(d.dir / "rok.txt").find("za rok 2020"), std::string::npos);
 
     // The certificate needs the HR record; then it prints the period over the year's turn.
+    std::filesystem::remove(d.dir / "DEMO" / "Person" / "a.kdr");
     r = d.cli({"certificate", "a", "75031412317", "1220", "0121"});
     EXPECT_EQ(r.status, 1);
     EXPECT_NE(r.err.find("Brak uzupełnionych danych kadrowych"), std::string::npos) << r.err;
