@@ -27,7 +27,10 @@ function(pensja_tests name)
     PENSJA_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data"
     PENSJA_DEMO="${PROJECT_SOURCE_DIR}/demo"
     PENSJA_REFERENCE="${PROJECT_SOURCE_DIR}/tests/reference")
+  # Run from the build root: a compiler cache may hand the compiler source paths relative to it,
+  # and tests find their golden files beside their source (__FILE__).
   gtest_discover_tests(test_${name}
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
     PROPERTIES ENVIRONMENT "LANG=C.UTF-8;TZ=Europe/Warsaw;QT_QPA_PLATFORM=offscreen"
     DISCOVERY_TIMEOUT 60)
 endfunction()
