@@ -17,7 +17,7 @@ using testing_support::readBytes;
 namespace {
 
 std::string referencja(const std::string& name) {
-    return readBytes(std::filesystem::path(PENSJA_TEST_DATA).parent_path() / "printing" / "data" / name);
+    return readBytes(std::filesystem::path(__FILE__).parent_path() / "data" / name);
 }
 
 testing_support::RunResult cli(const Dane& d, const std::vector<std::string>& args) {

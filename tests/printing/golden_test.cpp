@@ -22,7 +22,7 @@ using printing_tests::Dane;
 
 namespace {
 
-const fs::path kData = fs::path(PENSJA_TEST_DATA).parent_path() / "printing" / "data";
+const fs::path kData = fs::path(__FILE__).parent_path() / "data";
 
 std::string wydrukListy(const std::vector<core::Record>& karta) {
     Dane d;
