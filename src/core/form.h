@@ -47,6 +47,7 @@ public:
     bool Visible = true;
     bool Enabled = true;
     bool Locked = false;  // a text box that cannot be typed in
+    bool Editable = false;  // a combo box that also takes a typed text
     std::string ToolTipText;
     std::vector<std::string> List;  // list and combo entries, tab captions
     int ListIndex = -1;

@@ -249,6 +249,7 @@ QWidget* FormView::make(Control& c) {
         auto* cb = new QComboBox(this);
         if (c.Mono) cb->setFont(monoFont());
         cb->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        cb->setEditable(c.Editable);
         if (c.Width > 0) cb->setMinimumWidth(QFontMetrics(cb->font()).horizontalAdvance('0') * (c.Width + 4));
         connect(cb, &QComboBox::activated, this, [this, &c](int) { run(c, &Control::Click); });
         w = cb;
@@ -412,7 +413,8 @@ void FormView::pushOne(Control& c, QWidget* w) {
         int idx = c.ListIndex;
         if (idx < 0 && !c.Text.empty()) idx = cb->findText(q(c.Text));
         cb->setCurrentIndex(idx);
-        if (idx < 0) cb->setPlaceholderText(q(c.Text));
+        if (c.Editable && cb->currentText() != q(c.Text)) cb->setEditText(q(c.Text));
+        else if (idx < 0) cb->setPlaceholderText(q(c.Text));
         break;
     }
     case Kind::Frame: static_cast<QGroupBox*>(w)->setTitle(labelText(c.Caption)); break;
@@ -516,7 +518,7 @@ void FormView::pullOne(Control& c, QWidget* w) {
     case Kind::ComboBox: {
         auto* cb = static_cast<QComboBox*>(w);
         c.ListIndex = cb->currentIndex();
-        if (c.ListIndex >= 0) c.Text = s(cb->currentText());
+        if (c.ListIndex >= 0 || c.Editable) c.Text = s(cb->currentText());
         break;
     }
     case Kind::Grid: {

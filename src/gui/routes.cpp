@@ -7,6 +7,8 @@
 #include "printing/screens.h"
 #include "reference/screens.h"
 #include "yearledger/screens.h"
+#include "trips/screens.h"
+#include "tax/screens.h"
 
 namespace gui {
 
@@ -18,6 +20,8 @@ void registerAllScreens(core::Screens& screens) {
     printing::registerScreens(screens);
     yearledger::registerScreens(screens);
     documents::registerScreens(screens);
+    trips::registerScreens(screens);
+    tax::registerScreens(screens);
 }
 
 }  // namespace gui

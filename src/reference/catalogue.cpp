@@ -91,4 +91,9 @@ std::string badListStem(const std::string& stem) {
     return badName(core::RTrim(core::Left(stem, Instal::kSzerSkrotu)), "Skrót listy (nazwa jej plików)");
 }
 
+bool Instal::wZestawie(const core::Record& line, const std::string& zestaw) {
+    std::string symbol = core::Trim(line.s(Instal::ZestawListy));
+    return !symbol.empty() && core::InStr(core::UCase(zestaw), core::UCase(symbol)) > 0;
+}
+
 }  // namespace reference

@@ -42,6 +42,9 @@ core::Record newLine(const std::string& title, const std::string& stem, const st
 std::string stem(const core::Record& line);
 // The first line whose stem equals `name` (padding ignored), or -1.
 int findByStem(const std::vector<core::Record>& lines, const std::string& name);
+// Whether the line's set symbol stands in `zestaw` (a text search without regard to case; a
+// line without a symbol is in no set).
+bool wZestawie(const core::Record& line, const std::string& zestaw);
 }  // namespace Instal
 
 // The line of a list in lstListaI and CmbWybierz: title padded to 33, a blank, the stem padded

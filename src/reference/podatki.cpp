@@ -71,11 +71,21 @@ PodatkiScreen::PodatkiScreen(core::Dialogs& ui, core::Session& session)
     Label34.at(2, 0, 3);
     cmdZapisz_.at(3, 0);
     CmdZmianaKosztow.at(3, 1);
-    CmdZmianaKosztow.Enabled = false;
-    CmdZmianaKosztow.ToolTipText = "Zmiana kosztów w zbiorach list płac nie jest jeszcze dostępna w tej wersji programu.";
     cmdKoniec_.at(3, 2);
     cmdZapisz_.Click = [this] { cmdZapisz(); };
+    CmdZmianaKosztow.Click = [this] { cmdZmianaKosztow(); };
     cmdKoniec_.Click = [this] { cmdKoniec(); };
+}
+
+// The amounts on the screen go to the pay records of the set (the command of the pay inputs).
+void PodatkiScreen::cmdZmianaKosztow() {
+    if (!checkNumbers()) return;
+    auto liczba = [&](int pole) { return core::Val(core::KropkaZamiastPrzecinka(std::string(txt(pole).Text))); };
+    s.stawki.KosztyUzyskania = liczba(Dane::KosztyUzyskania);
+    s.stawki.PRKu = static_cast<float>(liczba(Dane::PRKu));
+    s.stawki.KwotaUlgi = liczba(Dane::KwotaUlgi);
+    s.stawki.Stawka1 = liczba(Dane::Stawka1);
+    ui.open("CmdZmianaKosztow", s);
 }
 
 void PodatkiScreen::refreshLabel36() {
@@ -85,6 +95,7 @@ void PodatkiScreen::refreshLabel36() {
 }
 
 void PodatkiScreen::Load() {
+    CmdZmianaKosztow.Enabled = ui.canOpen("CmdZmianaKosztow");
     const std::string year = s.rok();
     Label18.Caption = "Stawki obowiazujace na " + year + " rok";
     fs::path file = Dane::path(s);

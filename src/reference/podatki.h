@@ -14,6 +14,7 @@ public:
     PodatkiScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
     void cmdZapisz();
+    void cmdZmianaKosztow();
     void cmdKoniec() { Unload(); }
 
     // The text box of a field of Dane.dta.
