@@ -13,7 +13,7 @@ endif()
 # The demonstration data (the folder a first start copies), without the placeholders that keep
 # empty folders in the repository and without the scripts that made it.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/demo/ DESTINATION ${CMAKE_INSTALL_DATADIR}/pensja/demo
-        PATTERN ".gitkeep" EXCLUDE PATTERN "*.sh" EXCLUDE PATTERN "*.md" EXCLUDE)
+        PATTERN ".gitkeep" EXCLUDE PATTERN ".gitattributes" EXCLUDE PATTERN "*.sh" EXCLUDE PATTERN "*.md" EXCLUDE)
 install(FILES ${PROJECT_SOURCE_DIR}/demo/dane/wzorc.kdu DESTINATION ${CMAKE_INSTALL_DATADIR}/pensja OPTIONAL)
 
 # The manual pages: pensja-cli's from the same table as its --help, gzipped as Debian keeps them.

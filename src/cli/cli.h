@@ -22,6 +22,10 @@ public:
     core::Answer msgBox(const std::string& text, core::Buttons buttons, core::Icon icon, const std::string& title) override;
     std::optional<std::string> inputBox(const std::string& prompt, const std::string& title, const std::string& def) override;
     void showForm(core::Form& form) override;
+    // The folder given by the command (--out FOLDER) answers the folder box; without one the
+    // folder is asked as any input.
+    std::optional<std::string> folder;
+    std::optional<std::string> folderBox(const std::string& title, const std::string& start) override;
     core::TextPrinter paper;
     core::Printer& printer() override { return paper; }
 };

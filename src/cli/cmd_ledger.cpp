@@ -77,7 +77,7 @@ int podstawa(cli::Context& c) {
 
 cli::Register r1("ledger", {"ledger LISTA",
                             "kartoteka miesięczna listy za miesiąc daty listy (karta\\<lista><RRmm>.dta); "
-                            "pytanie: --yes; kod 1, gdy nie wykonano",
+                            "pytanie: --yes; kod 1, gdy nie wykonano; osoby bez danych płacowych: ostrzeżenie na stderr (kod 0)",
                             kartoteka});
 cli::Register r2("close-month", {"close-month LISTA",
                                  "zerowanie miesiąca w bazie płacowej listy (raty, chorobowe, brutto od początku "

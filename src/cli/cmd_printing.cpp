@@ -5,6 +5,7 @@
 #include "paycalc/karta_record.h"
 #include "printing/lista_plac.h"
 #include "printing/specyfikacja.h"
+#include "printing/sumy_record.h"
 #include "reference/catalogue.h"
 
 namespace {
@@ -47,8 +48,12 @@ cli::Register lista("print-list", {std::string("print-list") + kOpcje,
                                    "lista płac miesiąca z kartoteki (pytanie o drukarkę: --yes); zapisuje SUMY\\S<lista><RRmm>.sum",
                                    [](cli::Context& c) {
                                        otworzListe(c, "print-list");
-                                       printing::cmdDrukListy(c.session, c.dialogs);
-                                       return wydaj(c);
+                                       std::optional<core::Record> sumy;
+                                       printing::cmdDrukListy(c.session, c.dialogs, &sumy);
+                                       // The sums say the list was printed: written once the pages are out.
+                                       int rc = wydaj(c);
+                                       if (rc == 0 && sumy) printing::Sumy::write(c.session, *sumy);
+                                       return rc;
                                    }});
 
 cli::Register paski("payslips", {std::string("payslips") + kOpcje,

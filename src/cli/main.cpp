@@ -48,6 +48,11 @@ std::optional<std::string> CliDialogs::inputBox(const std::string& prompt, const
     throw Unanswered("pytanie bez odpowiedzi: [" + title + "] " + prompt);
 }
 
+std::optional<std::string> CliDialogs::folderBox(const std::string& title, const std::string& start) {
+    if (folder) return folder;
+    return core::Dialogs::folderBox(title, start);
+}
+
 void CliDialogs::showForm(core::Form& form) {
     form.guarded([&] { form.Load(); });
 }

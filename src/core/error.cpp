@@ -23,7 +23,15 @@ std::string errorReport(int number, const std::string& step, ReportWords words) 
     return " Błąd nr " + std::to_string(number) + " w linii " + step;
 }
 
+TextRefused::TextRefused(std::string step, std::string field, int fieldNumber)
+    : Error(err::InvalidCall, std::move(step), refusalText(field)), Field(std::move(field)), FieldNumber(fieldNumber) {}
+
+std::string refusalText(const std::string& label) {
+    return "Pole \"" + label + "\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.";
+}
+
 std::string errorReport(const Error& e, ReportWords words) {
+    if (dynamic_cast<const TextRefused*>(&e)) return e.Detail;
     std::string s = errorReport(e.Number, e.Step, words);
     if (!e.Detail.empty()) s += "\n" + e.Detail;
     return s;

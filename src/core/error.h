@@ -29,6 +29,18 @@ public:
     std::string Detail;
 };
 
+// A text that a file cannot hold: a double quote inside an item written in quotes. Thrown by
+// the codec before anything is written; `Field` is the field's name in its format (empty when
+// the writer gave none) and `FieldNumber` its number.
+class TextRefused : public Error {
+public:
+    TextRefused(std::string step, std::string field, int fieldNumber);
+    std::string Field;
+    int FieldNumber;
+};
+// The text of the box refusing a double quote in the field labelled `label`.
+std::string refusalText(const std::string& label);
+
 // The words of the error report. Most screens say " Błąd nr N w linii S"; some screens use
 // their own spelling, which is part of their text (BezNr: " Błąd N  w linii S"; NrKropka:
 // "Błąd nr.N w linii S").

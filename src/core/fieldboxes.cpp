@@ -12,6 +12,7 @@ FieldBoxes::FieldBoxes(Form& form, std::span<const FieldBox> defs) : defs_(defs)
         int row = d.row >= 0 ? d.row : free;
         free = std::max(free, row + 1);
         c->in(d.frame).at(row, d.slot).label(d.label).width(d.width);
+        c->Field = d.field;
         boxes_.push_back(std::move(c));
     }
 }

@@ -1,5 +1,7 @@
 #include "core/form.h"
 
+#include "core/text.h"
+
 #include <exception>
 
 namespace core {
@@ -39,10 +41,56 @@ void Form::guarded(const std::function<void()>& work) {
     try {
         work();
     } catch (const Error& e) {
-        ui.msgBox(errorReport(e, Words), Buttons::OK, Icon::Critical, ErrorTitle);
+        showError(e);
     } catch (const std::exception& e) {
         ui.msgBox(std::string("Nieoczekiwany błąd: ") + e.what(), Buttons::OK, Icon::Critical);
     }
+}
+
+namespace {
+
+// The name of a control without its kind prefix and a trailing number: txtUlicaM -> ULICAM,
+// txtNazwaListy1 -> NAZWALISTY.
+std::string fieldPart(const std::string& name) {
+    std::string n = UCase(name);
+    if (n.rfind("TXT", 0) == 0) n = n.substr(3);
+    while (!n.empty() && n.back() >= '0' && n.back() <= '9') n.pop_back();
+    return n;
+}
+
+std::string withoutAccelerator(std::string s) {
+    std::erase(s, '&');
+    return Trim(s);
+}
+
+}  // namespace
+
+Control* Form::controlOfField(const TextRefused& e) {
+    if (e.FieldNumber > 0)
+        for (Control* c : controls_)
+            if (c->Field == e.FieldNumber) return c;
+    const std::string want = UCase(e.Field);
+    for (Control* c : controls_)
+        if ((c->kind == Kind::TextBox || c->kind == Kind::ComboBox) && !want.empty() &&
+            (fieldPart(c->Name) == want || UCase(c->Name) == "TXT" + want))
+            return c;
+    return nullptr;
+}
+
+void Form::showError(const Error& e, ReportWords words) {
+    const auto* refused = dynamic_cast<const TextRefused*>(&e);
+    if (!refused) {
+        ui.msgBox(errorReport(e, words), Buttons::OK, Icon::Critical, ErrorTitle);
+        return;
+    }
+    std::string label = refused->Field;
+    if (Control* c = controlOfField(*refused)) {
+        const Control* named = c->LabelControl.empty() ? nullptr : find(c->LabelControl);
+        std::string l = withoutAccelerator(named ? named->Caption : c->Label);
+        if (!l.empty()) label = l;
+        SetFocus(*c);
+    }
+    ui.msgBox(refusalText(label), Buttons::OK, Icon::Exclamation, "Błędne dane");
 }
 
 void Form::fire(Control& c, std::function<void()> Control::*event) {

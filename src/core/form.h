@@ -70,12 +70,18 @@ public:
     int LayoutRow = -1, LayoutSlot = 0, LayoutSpan = 1, LayoutRowSpan = 1;
     int Width = 0;
     bool Mono = false;
+    // Colours as the classic controls hold them (0xBBGGRR), -1 for the default: the back colour
+    // of a label, and the back colour of each row of a grid (by row number).
+    long BackColor = -1;
+    std::vector<long> RowColor;
     bool MultiLine = false;
     bool Password = false;
     std::string Parent;  // menus: the name of the drop-down holding this entry
     // A Label control of the screen shown in the place of this control's label (a label whose
     // caption the screen changes).
     std::string LabelControl;
+    // The number of the record field a bound text box is saved into (0: none).
+    int Field = 0;
 
     // Events.
     std::function<void()> Click, DblClick, Change, KeyEnter, LostFocus, Tick;
@@ -144,6 +150,10 @@ public:
     void fire(Control& c, std::function<void()> Control::*event);
     // Runs any piece of the screen's work in the same way.
     void guarded(const std::function<void()>& work);
+    // The box of an error: a text refused by a file names the box of its field (its label) and
+    // moves the focus there; any other error gets the screen's error report in `words`.
+    void showError(const Error& e, ReportWords words);
+    void showError(const Error& e) { showError(e, Words); }
 
     Control* find(const std::string& name);
     const std::vector<Control*>& controls() const { return controls_; }
@@ -167,6 +177,7 @@ public:
 
 private:
     friend class Control;
+    Control* controlOfField(const TextRefused& e);
     std::vector<Control*> controls_;
 };
 

@@ -5,16 +5,24 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <limits>
 
+#include "core/error.h"
 #include "core/text.h"
 
 namespace core {
 
 double Fix(double x) { return std::trunc(x); }
 
+float CSng(double x, const std::string& step) {
+    if (std::isinf(x) || (std::isfinite(x) && std::fabs(x) > std::numeric_limits<float>::max()))
+        throw Error(err::Overflow, step, "kwota " + numText(x) + " przekracza zakres liczby pojedynczej precyzji");
+    return static_cast<float>(x);
+}
+
 float Round2(double x) {
     double r = std::nearbyint(x * 100.0) / 100.0;  // the default rounding mode: ties to even
-    return static_cast<float>(r);
+    return CSng(r, "Round2");
 }
 
 float Round2(float& x) {
@@ -24,7 +32,7 @@ float Round2(float& x) {
 
 float RoundZl(double x) {
     double f = Fix(x);
-    return static_cast<float>(x - f >= 0.5 ? f + 1 : f);
+    return CSng(x - f >= 0.5 ? f + 1 : f, "RoundZl");
 }
 
 float RoundZl(float& x) {

@@ -9,7 +9,11 @@ namespace core {
 // x truncated towards zero.
 double Fix(double x);
 
-// Two decimals, ties to even, narrowed to a 32-bit float. The argument takes the result.
+// A value stored into a 32-bit float: Error 6 (overflow) when it lies beyond the float's range,
+// as the classic run-time raises it; `step` names the store in the error.
+float CSng(double x, const std::string& step = "CSng");
+
+// Two decimals, ties to even, narrowed to a 32-bit float (Error 6 beyond its range). The argument takes the result.
 float Round2(double x);
 float Round2(float& x);
 // Whole złoty: a fraction of 0.5 or more goes up, below stays; a negative amount is truncated

@@ -49,10 +49,22 @@ float Record::f(int n) const { return static_cast<float>(d(n)); }
 
 long Record::i(int n) const { return std::lround(d(n)); }
 
+namespace {
+
+// A double quote would end a quoted item early and break the file: refused before any write.
+void refuseQuote(const Schema& schema, int n, const std::string& text) {
+    if (text.find('"') == std::string::npos) return;
+    std::string name(schema.fields[n - 1].name);
+    throw TextRefused(std::string(schema.name) + ", pole " + std::to_string(n) + " " + name, name, n);
+}
+
+}  // namespace
+
 void Record::set(int n, const std::string& text) {
     Item& it = item(n);
     FieldType t = schema_->fields[n - 1].type;
     if (t == FieldType::Blank) return;
+    if (t == FieldType::String || t == FieldType::Variant) refuseQuote(*schema_, n, text);
     switch (t) {
     case FieldType::String:
     case FieldType::Line:
@@ -76,6 +88,8 @@ void Record::set(int n, float v) {
     case FieldType::Int16:
     case FieldType::Long: set(n, std::lround(v)); break;
     case FieldType::Float:
+        it = Item::bare(numText(CSng(v, std::string(schema_->name) + ", pole " + std::to_string(n) + " " + fieldName(n))));
+        break;
     case FieldType::Variant: it = Item::bare(numText(v)); break;
     case FieldType::Blank: break;
     }
@@ -88,7 +102,9 @@ void Record::set(int n, double v) {
     switch (t) {
     case FieldType::String:
     case FieldType::Line: it = Item::quoted(numText(v)); break;
-    case FieldType::Float: it = Item::bare(numText(static_cast<float>(v))); break;
+    case FieldType::Float:
+        it = Item::bare(numText(CSng(v, std::string(schema_->name) + ", pole " + std::to_string(n) + " " + fieldName(n))));
+        break;
     case FieldType::Int16:
     case FieldType::Long: set(n, std::lround(v)); break;
     case FieldType::Double:
@@ -166,7 +182,16 @@ void writeRecord(SeqWriter& out, const Record& rec) {
     int per = s.itemsPerWrite <= 0 ? s.size() : s.itemsPerWrite;
     std::vector<Item> line;
     for (int n = 1; n <= s.size(); ++n) {
-        line.push_back(s.fields[n - 1].type == FieldType::Blank ? Item::empty() : rec.item(n));
+        const FieldType t = s.fields[n - 1].type;
+        const Item& it = rec.item(n);
+        if (t == FieldType::Line)
+            line.push_back(Item::bare('"' + it.text + '"'));  // read back as a whole line: quotes inside are safe
+        else if (t == FieldType::Blank)
+            line.push_back(Item::empty());
+        else {
+            if (it.kind == Item::Quoted) refuseQuote(s, n, it.text);
+            line.push_back(it);
+        }
         if (static_cast<int>(line.size()) == per || n == s.size()) {
             out.write(line);
             line.clear();

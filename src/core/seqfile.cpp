@@ -92,6 +92,9 @@ std::string SeqReader::line() {
 }
 
 void SeqWriter::write(const std::vector<Item>& items) {
+    for (std::size_t i = 0; i < items.size(); ++i)
+        if (items[i].kind == Item::Quoted && items[i].text.find('"') != std::string::npos)
+            throw TextRefused("pozycja " + std::to_string(i + 1), "pozycja " + std::to_string(i + 1), 0);
     bool first = true;
     for (const Item& it : items) {
         if (!first) buf_ += ',';

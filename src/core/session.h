@@ -88,6 +88,9 @@ struct Session {
     // "N" asks the pay screen to show the record again after it has made one.
     std::string NowyZapis;
 
+    // The folder the bank's listing went to last (offered first the next time).
+    std::filesystem::path FolderDyskietki;
+
     // The payer (a record of MojaFirma.txt), the rates of the year (a record of Dane.dta) and
     // their derived values.
     Record Firma;

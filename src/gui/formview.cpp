@@ -9,7 +9,9 @@
 #include <QEvent>
 #include <QFileSystemModel>
 #include <QFontDatabase>
+#include <QColor>
 #include <QGridLayout>
+#include <QPalette>
 #include <QScrollBar>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -39,6 +41,9 @@ using core::Control;
 using core::Kind;
 
 namespace {
+
+// A colour value of the classic controls (0xBBGGRR).
+QColor vbColor(long v) { return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF); }
 
 std::map<core::Form*, FormView*>& views() {
     static std::map<core::Form*, FormView*> v;
@@ -368,7 +373,15 @@ void FormView::pushOne(Control& c, QWidget* w) {
     w->setToolTip(q(c.ToolTipText));
     if (auto l = labels_.find(c.Name); l != labels_.end()) l->second->setVisible(c.Visible);
     switch (c.kind) {
-    case Kind::Label: static_cast<QLabel*>(w)->setText(labelText(c.Caption)); break;
+    case Kind::Label:
+        static_cast<QLabel*>(w)->setText(labelText(c.Caption));
+        if (c.BackColor >= 0) {
+            w->setAutoFillBackground(true);
+            QPalette pal = w->palette();
+            pal.setColor(QPalette::Window, vbColor(c.BackColor));
+            w->setPalette(pal);
+        }
+        break;
     case Kind::TextBox:
         if (auto* e = qobject_cast<QLineEdit*>(w)) {
             if (e->text() != q(c.Text)) e->setText(q(c.Text));
@@ -433,6 +446,8 @@ void FormView::pushOne(Control& c, QWidget* w) {
                 QTableWidgetItem* it = t->item(r - 1, col);
                 if (!it) t->setItem(r - 1, col, it = new QTableWidgetItem);
                 if (it->text() != q(c.Cells[r][col])) it->setText(q(c.Cells[r][col]));
+                if (r < static_cast<int>(c.RowColor.size()) && c.RowColor[r] >= 0)
+                    it->setBackground(vbColor(c.RowColor[r]));
             }
         if (c.Row >= 1 && c.Row < c.Rows) t->setCurrentCell(c.Row - 1, c.Col);
         break;

@@ -1,6 +1,7 @@
 #include "gui/routes.h"
 
 #include "documents/screens.h"
+#include "bank/screens.h"
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
@@ -9,6 +10,7 @@
 #include "yearledger/screens.h"
 #include "trips/screens.h"
 #include "tax/screens.h"
+#include "zus/screens.h"
 
 namespace gui {
 
@@ -22,6 +24,8 @@ void registerAllScreens(core::Screens& screens) {
     documents::registerScreens(screens);
     trips::registerScreens(screens);
     tax::registerScreens(screens);
+    bank::registerScreens(screens);
+    zus::registerScreens(screens);
 }
 
 }  // namespace gui

@@ -76,6 +76,16 @@ std::filesystem::path path(const core::Session& s, Rodzaj r) { return path(s, r,
 
 std::vector<core::Record> readAll(const std::filesystem::path& file) { return core::readAll(file, kSchema); }
 
+std::optional<core::Record> znajdz(const std::filesystem::path& file, const std::string& klucz) {
+    if (!core::fileExists(file)) return std::nullopt;
+    core::SeqReader in(file);
+    while (!in.eof()) {
+        core::Record r = core::readRecord(in, kSchema);
+        if (r.s(Klucz) == klucz) return r;
+    }
+    return std::nullopt;
+}
+
 void writeAll(const std::filesystem::path& file, Rodzaj r, const std::vector<core::Record>& recs) {
     core::writeAll(file, recs, opis(r).tymczasowy);
 }

@@ -5,6 +5,7 @@
 #pragma once
 #include <array>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,9 @@ std::filesystem::path path(const core::Session& s, Rodzaj r, const std::string& 
 std::filesystem::path path(const core::Session& s, Rodzaj r);
 
 std::vector<core::Record> readAll(const std::filesystem::path& file);
+// The first record of the person `klucz` (field 3), read from the start and no further; nothing
+// when the file is missing or holds no such record.
+std::optional<core::Record> znajdz(const std::filesystem::path& file, const std::string& klucz);
 // Writes the records through the kind's temporary file.
 void writeAll(const std::filesystem::path& file, Rodzaj r, const std::vector<core::Record>& recs);
 }  // namespace Dodatkowy

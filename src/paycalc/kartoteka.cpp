@@ -178,7 +178,7 @@ Record rekordKarty(const core::Session& s, const Record& o) {
     return k;
 }
 
-int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep) {
+int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep, std::vector<std::string>* bezPlacy) {
     // The rates of the year and the month stamp of the list date, then the list's files once.
     reference::loadRates(s);
     const ZbioryListy z = wczytajZbiory(s);
@@ -201,7 +201,10 @@ int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep) 
             ++liczba;
             // The personnel values the calculation used (the birth date made from the PESEL
             // when it was empty); without a pay record the calculation ends before them.
-            const bool policzono = modWyliczeniePlacy(s, ui, z) == Wynik::Policzono;
+            const Wynik wynik = modWyliczeniePlacy(s, ui, z);
+            const bool policzono = wynik == Wynik::Policzono;
+            if (wynik == Wynik::BrakPlacy && bezPlacy)
+                bezPlacy->push_back(s.NazwiskoOsoby + " " + s.ImieOsoby + ", " + klucz);
             core::writeRecord(out, rekordKarty(s, policzono && s.wynik.osoba.valid() ? s.wynik.osoba : o));
         }
         postep(0, ile, i + 1);
@@ -220,10 +223,21 @@ bool cmdKartoteka(core::Session& s, core::Dialogs& ui, const Postep& postep) {
     if (ui.msgBox("Czy chcesz wykonać kartotekę z aktualnej na ten miesiac listy płac ", core::Buttons::YesNo,
                   core::Icon::Information, "Wykonanie kartoteki z listy plac za " + s.DataListy) != core::Answer::Yes)
         return false;
-    wykonajKartoteke(s, ui, postep);
+    std::vector<std::string> bezPlacy;
+    wykonajKartoteke(s, ui, postep, &bezPlacy);
     ui.msgBox("Wykonano kartotekę za " + s.RRmm(), core::Buttons::OK, core::Icon::Information,
               "Kartoteka z listy plac " + s.NazwaZbioru);
+    if (!bezPlacy.empty())
+        ui.msgBox(ostrzezenieBezPlacy(bezPlacy), core::Buttons::OK, core::Icon::Exclamation, kTytulBezPlacy);
     return true;
+}
+
+std::string ostrzezenieBezPlacy(const std::vector<std::string>& bezPlacy) {
+    std::string t = "Te osoby listy nie mają danych płacowych:\n";
+    for (const std::string& o : bezPlacy) t += "  " + o + "\n";
+    return t +
+           "Ich rekordy w kartotece powtarzają kwoty osoby poprzedniej (także kwotę do wypłaty i konto) i muszą "
+           "zostać poprawione przed wypłatami i przelewami.";
 }
 
 namespace {
@@ -252,15 +266,14 @@ float podstawaRoczna(const core::Session& s, const std::string& klucz, const std
         if (auto r = pierwszy(Karta::path(s, lista, RRmm), Karta::schema(), Karta::Klucz, klucz))
             suma += r->f(Karta::PodstawaZUS);
         using Dodatkowy::Rodzaj;
-        const core::Schema& d = Dodatkowy::schema();
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::God, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::God, lista, RRmm), klucz))
             suma += r->f(Dodatkowy::KwotaBrutto);
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::Dod, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::Dod, lista, RRmm), klucz))
             suma += static_cast<double>(r->f(Dodatkowy::Kw1)) + r->f(Dodatkowy::Kw2) + r->f(Dodatkowy::Kw3) +
                     r->f(Dodatkowy::Kw4) + r->f(Dodatkowy::Kw5);
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::SwU, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::SwU, lista, RRmm), klucz))
             suma += r->f(Dodatkowy::KwotaBrutto);
-        if (auto r = pierwszy(Dodatkowy::path(s, Rodzaj::Jub, lista, RRmm), d, Dodatkowy::Klucz, klucz))
+        if (auto r = Dodatkowy::znajdz(Dodatkowy::path(s, Rodzaj::Jub, lista, RRmm), klucz))
             suma += r->f(Dodatkowy::KwotaBrutto);
     }
     return core::Round2(suma);

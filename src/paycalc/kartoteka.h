@@ -3,6 +3,7 @@
 // person's contribution base of a year over the twelve ledgers and the supplementary files.
 #pragma once
 #include <string>
+#include <vector>
 
 #include "core/dialogs.h"
 #include "core/record.h"
@@ -26,8 +27,15 @@ core::Record rekordKarty(const core::Session& s, const core::Record& osoba);
 bool cmdKartoteka(core::Session& s, core::Dialogs& ui, const Postep& postep = {});
 
 // The ledger of the month without the question and the closing box: the number of records
-// written. The files of the list are those of the session.
-int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep = {});
+// written. The files of the list are those of the session. The people of the list without a pay
+// record (their ledger records repeat the figures of the person before them) are added to
+// `bezPlacy` as "NAZWISKO IMIĘ, identyfikator".
+int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep = {},
+                     std::vector<std::string>* bezPlacy = nullptr);
+
+// The warning shown after the ledger when some people of the list have no pay record.
+std::string ostrzezenieBezPlacy(const std::vector<std::string>& bezPlacy);
+constexpr const char* kTytulBezPlacy = "Osoby bez danych płacowych";
 
 // cmdWyliczPodstawe: the contribution base of the person `klucz` in the year given by the last
 // two characters of `rokDoPodstawy` (of the list date when it is empty): field 140 of the twelve

@@ -31,126 +31,6 @@ const char* const kEkranOsoby = "frmOsoba1";
 const char* const kEkranSortowania = "frmSortujKadrowe";
 const char* const kEkranPodgladu = "frmPodgladWydruku";
 
-using namespace Dodatkowy;
-
-// The fields of the tab's file on each frame: the inputs of the run as text boxes, its results
-// as labels.
-const core::FieldBox kPolaG[] = {
-    {Podstawa, "TxtPodstawaG", "Podstawa", "Frame1", 1, 12, 0, Kind::TextBox},
-    {Il1, "txtIl1", "Planowane - godziny", "Frame1", 2, 12, 0, Kind::TextBox},
-    {Sta1, "txtsta1", "stawka", "Frame1", 2, 12, 1, Kind::TextBox},
-    {Kw1, "LbKw1", "kwota", "Frame1", 2, 12, 2, Kind::Label},
-    {Il2, "txtIl2", "Zastępcze - godziny", "Frame1", 3, 12, 0, Kind::TextBox},
-    {Sta2, "txtSta2", "stawka", "Frame1", 3, 12, 1, Kind::TextBox},
-    {Kw2, "lbKw2", "kwota", "Frame1", 3, 12, 2, Kind::Label},
-    {Il3, "txtIl3", "Indywidua - godziny", "Frame1", 4, 12, 0, Kind::TextBox},
-    {Sta3, "txtSta3", "stawka", "Frame1", 4, 12, 1, Kind::TextBox},
-    {Kw3, "lbKw3", "kwota", "Frame1", 4, 12, 2, Kind::Label},
-    {Il4, "txtIl4", "Nocne - godziny", "Frame1", 5, 12, 0, Kind::TextBox},
-    {Sta4, "txtsta4", "stawka", "Frame1", 5, 12, 1, Kind::TextBox},
-    {Kw4, "lbKw4", "kwota", "Frame1", 5, 12, 2, Kind::Label},
-    {Il5, "txtIl5", "Bibliote. - godziny", "Frame1", 6, 12, 0, Kind::TextBox},
-    {Sta5, "txtSta5", "stawka", "Frame1", 6, 12, 1, Kind::TextBox},
-    {Kw5, "lbKw5", "kwota", "Frame1", 6, 12, 2, Kind::Label},
-    {Il6, "txtIl6", "Dow.dziec - godziny", "Frame1", 7, 12, 0, Kind::TextBox},
-    {Sta6, "txtSta6", "stawka", "Frame1", 7, 12, 1, Kind::TextBox},
-    {Kw6, "lbKw6", "kwota", "Frame1", 7, 12, 2, Kind::Label},
-    {Il7, "txtIl7", "Inne - godziny", "Frame1", 8, 12, 0, Kind::TextBox},
-    {Sta7, "txtSta7", "stawka", "Frame1", 8, 12, 1, Kind::TextBox},
-    {Kw7, "lbKw7", "kwota", "Frame1", 8, 12, 2, Kind::Label},
-    {RazemKwota, "LbRazemKwotaG", "Razem kwota", "Frame1", 9, 12, 2, Kind::Label},
-    {KwotaBrutto, "lbPodstawaZUSG", "Podstawa składek", "Frame1", 10, 12, 0, Kind::Label},
-    {PodstawaZdrowotna, "LbPodstawaKasyG", "Podstawa zdrowotnej", "Frame1", 10, 12, 1, Kind::Label},
-    {SkladkaZdrowotna, "lbSkładkaZdrG", "Składka zdrowotna", "Frame1", 10, 12, 2, Kind::Label},
-    {SkladkaIndywidualna, "LbSładkaIndG", "Składka zdr. indywid.", "Frame1", 11, 12, 0, Kind::Label},
-    {StawkaPodatku, "lbStawkaPodatkuG", "Stawka podatku", "Frame1", 11, 12, 1, Kind::Label},
-    {PodatekNetto, "LbPodatekNettoG", "Podatek", "Frame1", 11, 12, 2, Kind::Label},
-    {PlacaNetto, "lbPłacaNettoG", "Płaca netto", "Frame1", 12, 12, 0, Kind::Label},
-    {DoWyplaty, "LbDoWypłatyG", "Do wypłaty", "Frame1", 12, 12, 1, Kind::Label},
-    {NaROR, "LbNaKontoRORG", "Na konto ROR", "Frame1", 12, 12, 2, Kind::Label},
-    {NumerKonta, "lbNumerKontaG", "Nr konta", "Frame1", 13, 12, 0, Kind::Label},
-    {OpcjaROR, "lbOpcjaRORG", "Na konto (1 = tak)", "Frame1", 13, 12, 1, Kind::Label},
-    {BruttoOd01, "lbBruttoOd01G", "Brutto od 01.01", "Frame1", 13, 12, 2, Kind::Label},
-    {DataListy, "lbDataListyG", "Data listy", "Frame1", 14, 12, 0, Kind::Label},
-};
-
-const core::FieldBox kPolaD[] = {
-    {Kw1, "txtDodatek1", "Dodatek 1", "Frame2", 1, 12, 0, Kind::TextBox},
-    {Kw2, "txtDodatek2", "Dodatek 2", "Frame2", 1, 12, 1, Kind::TextBox},
-    {Kw3, "txtMieszkaniowy", "Mieszkaniowy", "Frame2", 1, 12, 2, Kind::TextBox},
-    {Kw4, "txtWiejski", "Wiejski", "Frame2", 2, 12, 0, Kind::TextBox},
-    {Kw5, "txtWyrownanie", "Wyrównanie", "Frame2", 2, 12, 1, Kind::TextBox},
-    {Kw6, "txtNagroda", "Nagroda", "Frame2", 2, 12, 2, Kind::TextBox},
-    {Kw7, "txtEkwiwalent", "Ekwiwalent", "Frame2", 3, 12, 0, Kind::TextBox},
-    {BruttoOd01, "txtBrOD01", "Wcześniejsze wypłaty", "Frame2", 3, 12, 1, Kind::TextBox},
-    {RazemKwota, "LbRazemKwotaD", "Razem kwota", "Frame2", 3, 12, 2, Kind::Label},
-    {KwotaBrutto, "lbPodstawaZUSD", "Podstawa składek", "Frame2", 4, 12, 0, Kind::Label},
-    {PodstawaZdrowotna, "LbPodstawaKasyD", "Podstawa zdrowotnej", "Frame2", 4, 12, 1, Kind::Label},
-    {SkladkaZdrowotna, "lbSkładkaZdrD", "Składka zdrowotna", "Frame2", 4, 12, 2, Kind::Label},
-    {SkladkaIndywidualna, "LbSładkaIndD", "Składka zdr. indywid.", "Frame2", 5, 12, 0, Kind::Label},
-    {StawkaPodatku, "lbStawkaPodatkuD", "Stawka podatku", "Frame2", 5, 12, 1, Kind::Label},
-    {PodatekNetto, "LbPodatekNettoD", "Podatek", "Frame2", 5, 12, 2, Kind::Label},
-    {PlacaNetto, "lbPłacaNettoD", "Płaca netto", "Frame2", 6, 12, 0, Kind::Label},
-    {DoWyplaty, "LbDoWypłatyD", "Do wypłaty", "Frame2", 6, 12, 1, Kind::Label},
-    {NaROR, "LbNaKontoRORD", "Na konto ROR", "Frame2", 6, 12, 2, Kind::Label},
-    {NumerKonta, "lbNumerKontaD", "Nr konta", "Frame2", 7, 12, 0, Kind::Label},
-    {OpcjaROR, "lbOpcjaRORD", "Na konto (1 = tak)", "Frame2", 7, 12, 1, Kind::Label},
-    {DataListy, "lbDataListyD", "Data listy", "Frame2", 7, 12, 2, Kind::Label},
-};
-
-const core::FieldBox kPolaT[] = {
-    {Podstawa, "txtOdKwoty", "Od kwoty", "Frame3", 1, 12, 0, Kind::TextBox},
-    {KwotaBrutto, "txtKwotaTrz", "Kwota trzynastki", "Frame3", 2, 12, 0, Kind::TextBox},
-    {PodstawaZdrowotna, "LbPodstawaKasyT", "Podstawa zdrowotnej", "Frame3", 3, 12, 0, Kind::Label},
-    {SkladkaZdrowotna, "lbSkładkaZdrT", "Składka zdrowotna", "Frame3", 3, 12, 1, Kind::Label},
-    {SkladkaIndywidualna, "LbSładkaIndT", "Składka zdr. indywid.", "Frame3", 3, 12, 2, Kind::Label},
-    {StawkaPodatku, "lbStawkaPodatkuT", "Stawka podatku", "Frame3", 4, 12, 0, Kind::Label},
-    {PodatekNetto, "LbPodatekNettoT", "Podatek", "Frame3", 4, 12, 1, Kind::Label},
-    {PlacaNetto, "lbPłacaNettoT", "Płaca netto", "Frame3", 4, 12, 2, Kind::Label},
-    {DoWyplaty, "LbDoWypłatyT", "Do wypłaty", "Frame3", 5, 12, 0, Kind::Label},
-    {NaROR, "LbNaKontoRORT", "Na konto ROR", "Frame3", 5, 12, 1, Kind::Label},
-    {NumerKonta, "lbNumerKontaT", "Nr konta", "Frame3", 5, 12, 2, Kind::Label},
-    {OpcjaROR, "lbOpcjaRORT", "Na konto (1 = tak)", "Frame3", 6, 12, 0, Kind::Label},
-    {BruttoOd01, "lbBruttoOd01T", "Brutto od 01.01", "Frame3", 6, 12, 1, Kind::Label},
-    {DataListy, "lbDataListyT", "Data listy", "Frame3", 6, 12, 2, Kind::Label},
-};
-
-const core::FieldBox kPolaJ[] = {
-    {Podstawa, "txtPodstawaJ", "Podstawa", "Frame4", 1, 12, 0, Kind::TextBox},
-    {KwotaBrutto, "lbKwotaJ", "Kwota", "Frame4", 2, 12, 0, Kind::Label},
-    {PodstawaZdrowotna, "LbPodstawaKasyJ", "Podstawa zdrowotnej", "Frame4", 2, 12, 1, Kind::Label},
-    {SkladkaZdrowotna, "lbSkładkaZdrJ", "Składka zdrowotna", "Frame4", 2, 12, 2, Kind::Label},
-    {SkladkaIndywidualna, "LbSładkaIndJ", "Składka zdr. indywid.", "Frame4", 3, 12, 0, Kind::Label},
-    {StawkaPodatku, "lbStawkaPodatkuJ", "Stawka podatku", "Frame4", 3, 12, 1, Kind::Label},
-    {PodatekNetto, "LbPodatekNettoJ", "Podatek", "Frame4", 3, 12, 2, Kind::Label},
-    {PlacaNetto, "lbPłacaNettoJ", "Płaca netto", "Frame4", 4, 12, 0, Kind::Label},
-    {DoWyplaty, "LbDoWypłatyJ", "Do wypłaty", "Frame4", 4, 12, 1, Kind::Label},
-    {NaROR, "LbNaKontoRORJ", "Na konto ROR", "Frame4", 4, 12, 2, Kind::Label},
-    {NumerKonta, "lbNumerKontaJ", "Nr konta", "Frame4", 5, 12, 0, Kind::Label},
-    {OpcjaROR, "lbOpcjaRORJ", "Na konto (1 = tak)", "Frame4", 5, 12, 1, Kind::Label},
-    {BruttoOd01, "lbBruttoOd01J", "Brutto od 01.01", "Frame4", 5, 12, 2, Kind::Label},
-    {DataListy, "lbDataListyJ", "Data listy", "Frame4", 6, 12, 0, Kind::Label},
-};
-
-const core::FieldBox kPolaU[] = {
-    {Podstawa, "txtPodstawaU", "Podstawa", "frame5", 1, 12, 0, Kind::TextBox},
-    {KwotaBrutto, "lbKwotaU", "Kwota", "frame5", 2, 12, 0, Kind::Label},
-    {PodstawaZdrowotna, "LbPodstawaKasyU", "Podstawa zdrowotnej", "frame5", 2, 12, 1, Kind::Label},
-    {SkladkaZdrowotna, "lbSkładkaZdrU", "Składka zdrowotna", "frame5", 2, 12, 2, Kind::Label},
-    {SkladkaIndywidualna, "LbSładkaIndU", "Składka zdr. indywid.", "frame5", 3, 12, 0, Kind::Label},
-    {StawkaPodatku, "lbStawkaPodatkuU", "Stawka podatku", "frame5", 3, 12, 1, Kind::Label},
-    {PodatekNetto, "LbPodatekNettoU", "Podatek", "frame5", 3, 12, 2, Kind::Label},
-    {PlacaNetto, "lbPłacaNettoU", "Płaca netto", "frame5", 4, 12, 0, Kind::Label},
-    {DoWyplaty, "LbDoWypłatyU", "Do wypłaty", "frame5", 4, 12, 1, Kind::Label},
-    {NaROR, "LbNaKontoRORU", "Na konto ROR", "frame5", 4, 12, 2, Kind::Label},
-    {NumerKonta, "lbNumerKontaU", "Nr konta", "frame5", 5, 12, 0, Kind::Label},
-    {OpcjaROR, "lbOpcjaRORU", "Na konto (1 = tak)", "frame5", 5, 12, 1, Kind::Label},
-    {BruttoOd01, "lbBruttoOd01U", "Brutto od 01.01", "frame5", 5, 12, 2, Kind::Label},
-    {DataListy, "lbDataListyU", "Data listy", "frame5", 6, 12, 0, Kind::Label},
-};
-
-const std::span<const core::FieldBox> kPola[5] = {kPolaG, kPolaD, kPolaT, kPolaJ, kPolaU};
-
 // The type texts of the lists by their group letters.
 struct TypListy {
     const char* grupa;
@@ -244,31 +124,6 @@ core::Control& ListaScreen::ramka(int tab) {
     return *r[std::clamp(tab, 1, 5) - 1];
 }
 
-core::Control* ListaScreen::pole(int tab, int field) {
-    core::FieldBoxes& p = *pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)];
-    return p.has(field) ? &p[field] : nullptr;
-}
-
-void ListaScreen::zbudujRamki() {
-    core::Control* nazwiska[] = {&lbNazwiskoImie1, &lbNazwiskoImie2, &lbNazwiskoImie3, &lbNazwiskoImie4,
-                                 &lbNazwiskoImie5};
-    for (int t = 1; t <= 5; ++t) {
-        nazwiska[t - 1]->in(ramka(t).Name).at(0, 0, 3);
-        pola_.push_back(std::make_unique<core::FieldBoxes>(*this, kPola[t - 1]));
-        core::FieldBoxes& p = *pola_.back();
-        // Read-only until the runs of the tabs come.
-        for (std::size_t i = 0; i < p.size(); ++i) p.box(i).Locked = true;
-    }
-    txtRokDoPodstawy.in("Frame3").at(1, 1).label("Rok do podstawy").width(6);
-    txtRokDoPodstawy.ToolTipText = "Rok, z którego liczy się podstawę (puste = rok daty listy)";
-    cmdWyliczPodstawe_.in("Frame3").at(1, 2);
-    cmdWyliczPodstawe_.ToolTipText =
-        "Podstawa składek wybranej osoby w roku: kartoteki miesięcy i listy dodatkowe (bez trzynastki)";
-    lbUwagaJ.in("Frame4").at(1, 1, 2);
-    // The base of the thirteenth pay is typed or computed here.
-    (*pola_[2])[Podstawa].Locked = false;
-}
-
 void ListaScreen::Load() {
     // 1.
     lbDatalistyk.Caption = s.DataListy;
@@ -292,6 +147,7 @@ void ListaScreen::Load() {
     s.SciezkaOsob = s.payerPath({"person", s.NazwaZbioru + ".per"});
     lstlista.Clear();
     Tablica.clear();
+    Klucze.clear();
     int licznik = 0;
     for (const Record& o : Osoba::readAll(s.SciezkaOsob)) {
         ++licznik;
@@ -300,6 +156,7 @@ void ListaScreen::Load() {
             throw core::Error(core::err::SubscriptOutOfRange, "frmlista, Form_Load, osoba " + std::to_string(licznik),
                               "lista może mieć najwyżej " + std::to_string(kMaxOsob) + " osób");
         Tablica.push_back(line);
+        Klucze.push_back(personnel::kluczOsoby(o));
         lstlista.AddItem(line);
     }
     // 6.
@@ -326,7 +183,9 @@ void ListaScreen::lstlista_Click() {
     const WybranaOsoba o = osobaZWiersza(lstlista.selectedText());
     s.NazwiskoOsoby = o.Nazwisko;
     s.ImieOsoby = o.Imie;
-    s.KluczOsoby = o.Klucz;
+    // The line shows the key cut to its columns; the choice takes it whole.
+    const auto i = static_cast<std::size_t>(lstlista.ListIndex);
+    s.KluczOsoby = i < Klucze.size() ? Klucze[i] : o.Klucz;
     s.KodUbezpieczeniaOsoby = o.KodUbezpieczenia;
     s.NumerOsoby = o.Numer;
     s.Osoba = core::EkranOsoby{};
@@ -334,6 +193,7 @@ void ListaScreen::lstlista_Click() {
     const std::string nazwa = s.NazwiskoOsoby + " " + s.ImieOsoby;
     for (core::Control* l : {&lbNazwiskoImie1, &lbNazwiskoImie2, &lbNazwiskoImie3, &lbNazwiskoImie4, &lbNazwiskoImie5})
         l->Caption = nazwa;
+    podpowiedzNadgodzin();
     // 3., 4.
     pokazRamke(TabStrip1.Value);
     pokazRekord(TabStrip1.Value);
@@ -342,20 +202,6 @@ void ListaScreen::lstlista_Click() {
 void ListaScreen::pokazRamke(int tab) {
     for (int t = 1; t <= 5; ++t) ramka(t).Visible = false;
     ramka(tab).Visible = true;
-}
-
-void ListaScreen::wyczysc(int tab) { pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)]->clear(); }
-
-void ListaScreen::pokazRekord(int tab) {
-    wyczysc(tab);
-    if (!wybrana()) return;
-    const fs::path file = Dodatkowy::path(s, rodzajZakladki(tab));
-    if (!core::fileExists(file)) return;
-    for (const Record& r : Dodatkowy::readAll(file)) {
-        if (r.s(Dodatkowy::Klucz) != s.KluczOsoby) continue;
-        pola_[static_cast<std::size_t>(tab - 1)]->fill(r);
-        return;
-    }
 }
 
 void ListaScreen::TabStrip1_Click() {
@@ -379,36 +225,6 @@ void ListaScreen::TabStrip1_Click() {
     }
     // 4.
     pokazRekord(tab);
-}
-
-void ListaScreen::zalozZbior(Dodatkowy::Rodzaj rodzaj) {
-    const std::vector<Record> osoby = Osoba::readAll(s.SciezkaOsob.empty() ? Osoba::path(s) : s.SciezkaOsob);
-    std::vector<Record> place;
-    const fs::path plikPlac = Pay::path(s);
-    if (core::fileExists(plikPlac)) place = Pay::readAll(plikPlac);
-    std::vector<Record> recs;
-    recs.reserve(osoby.size());
-    for (const Record& o : osoby) {
-        const std::string klucz = personnel::kluczOsoby(o);
-        Record r(Dodatkowy::schema());
-        r.set(Dodatkowy::Nazwisko, core::RTrim(o.s(Osoba::Nazwisko)));
-        r.set(Dodatkowy::Imie, core::RTrim(o.s(Osoba::Imie)));
-        r.set(Dodatkowy::Klucz, klucz);
-        r.set(Dodatkowy::KodUbezpieczenia, core::RTrim(o.s(Osoba::KodUbezpieczenia)));
-        auto p = std::find_if(place.begin(), place.end(), [&](const Record& x) { return payinputs::kluczOsoby(x) == klucz; });
-        if (p != place.end()) {
-            if (rodzaj == Dodatkowy::Rodzaj::God) r.set(Dodatkowy::Podstawa, p->f(Pay::Zasadnicza));
-            r.set(Dodatkowy::StawkaPodatku, p->f(Pay::ZastosStaPOD));
-            r.set(Dodatkowy::NumerKonta, p->s(Pay::NumerKontaROR));
-            r.set(Dodatkowy::OpcjaROR, p->s(rodzaj == Dodatkowy::Rodzaj::God ? Pay::RorGodziny : Pay::RorDodatki));
-            r.set(Dodatkowy::BruttoOd01, static_cast<float>(p->d(Pay::BruttoOd01)));
-        }
-        r.set(Dodatkowy::DataListy, s.DataListy);
-        recs.push_back(std::move(r));
-    }
-    const Dodatkowy::Opis& op = Dodatkowy::opis(rodzaj);
-    core::ensureFolder(s.payerFolder(), {op.folder});
-    Dodatkowy::writeAll(Dodatkowy::path(s, rodzaj), rodzaj, recs);
 }
 
 void ListaScreen::cmdDodajOsobe() {

@@ -11,6 +11,7 @@
 #include "core/fieldboxes.h"
 #include "core/form.h"
 #include "core/session.h"
+#include "paycalc/dodatkowe.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/postep.h"
 
@@ -44,6 +45,24 @@ public:
     void drukuj(const std::string& ekran);
     void koniecH() { Unload(); }
 
+    // The supplementary runs of the month, each on its tab's boxes.
+    void CmdWyliczG() { wylicz(1); }
+    void cmdWyliczD() { wylicz(2); }
+    void cmdWyliczT() { wylicz(3); }
+    void cmdWyliczJ() { wylicz(4); }
+    void cmdWyliczSwUrlopowy() { wylicz(5); }
+    void wylicz(int tab);
+    // The delete command and the printed list of the tab's month's file.
+    void usunZakladke(int tab);
+    void drukujZakladke(int tab);
+    // The additions' option group: the chosen kind shows its switches, a switch changes them.
+    void optD_Click(int i);
+    void ChkD_Click();
+    // The control of the screen named `nazwa`; Error 9 when there is none.
+    core::Control& kontrolka(const std::string& nazwa);
+    // The kind of addition chosen on the additions' tab, 1 to 7.
+    int wybranyDodatek() const { return dodatek_; }
+
     // The kind of the tab `tab` (1 to 5).
     static Dodatkowy::Rodzaj rodzajZakladki(int tab);
     // The frame of the tab and the control showing a field of the tab's file (or null).
@@ -55,6 +74,8 @@ public:
     static constexpr int kMaxOsob = 250;
     // The lines of the list, as the table of at most kMaxOsob entries keeps them.
     std::vector<std::string> Tablica;
+    // The whole key of each line: a foreigner's document may be longer than its columns.
+    std::vector<std::string> Klucze;
 
     core::Session& s;
 
@@ -93,6 +114,7 @@ public:
     core::Control cmdWyliczPodstawe_{this, "cmdWyliczPodstawe", core::Kind::CommandButton, "Wylicz &podstawę"};
     core::Control lbUwagaJ{this, "lbUwagaJ", core::Kind::Label,
                            "Nagroda Jubileuszowa  ( tylko podatek , nie oskładkowane)"};
+    core::Control lbInfo{this, "lbInfo", core::Kind::Label};
     core::Control ProgressBar1{this, "ProgressBar1", core::Kind::ProgressBar};
     core::Control lbUwagi{this, "lbUwagi", core::Kind::Label};
 
@@ -110,8 +132,20 @@ private:
     void polecenia(bool wlaczone);
     void ustawPrzyciski();
 
+    // Fills the overtime's boxes of the job share and the hardship allowance from the person's
+    // records.
+    void podpowiedzNadgodzin();
+    // Shows a run's results in the labels of its tab that the file does not keep.
+    void pokazRozliczenie(int tab, const Rozliczenie& r);
+    void pokazFlagi();
+
     // The controls of each tab's frame bound to the fields of the tab's file.
     std::vector<std::unique_ptr<core::FieldBoxes>> pola_;
+    // The other controls of the tabs (switches, commands, results), found by their names.
+    std::vector<std::unique_ptr<core::Control>> wlasne_;
+    // The additions' switches of the seven kinds (see Dodatki::Flagi) and the chosen kind.
+    std::array<std::string, 7> flagi_;
+    int dodatek_ = 1;
 };
 
 }  // namespace paycalc

@@ -39,12 +39,34 @@ fs::path path(const core::Session& s, const std::string& rok) {
     return s.payerPath({"Urlopy", "Ur" + s.NazwaZbioru + rok + ".dta"});
 }
 
+namespace {
+
+void readMiesiac(core::SeqReader& in, Blok& b, int m) {
+    b.miesiace[m] = core::readRecord(in, Miesiac::schema());
+    for (int d = 0; d < 31; ++d) b.dni[m][d] = core::readRecord(in, Dzien::schema());
+}
+
+}  // namespace
+
 Blok readBlok(core::SeqReader& in) {
     Blok b;
     b.naglowek = core::readRecord(in, Naglowek::schema());
-    for (int m = 0; m < 12; ++m) {
-        b.miesiace[m] = core::readRecord(in, Miesiac::schema());
-        for (int d = 0; d < 31; ++d) b.dni[m][d] = core::readRecord(in, Dzien::schema());
+    for (int m = 0; m < 12; ++m) readMiesiac(in, b, m);
+    return b;
+}
+
+Blok readBlok(core::SeqReader& in, int miesiac, bool& urwany) {
+    urwany = false;
+    Blok b;
+    b.naglowek = core::readRecord(in, Naglowek::schema());
+    int m = 0;
+    for (; m < 12 && m < miesiac; ++m) readMiesiac(in, b, m);
+    try {
+        for (; m < 12; ++m) readMiesiac(in, b, m);
+    } catch (const core::Error& e) {
+        if (e.Number != core::err::InputPastEnd) throw;
+        urwany = true;
+        b.miesiace[m] = core::Record();
     }
     return b;
 }
@@ -154,8 +176,16 @@ UrlopMiesiaca modUrlop(core::Session& s) {
     UrlopMiesiaca u;
     fs::path file = Urlop::path(s, s.rok());
     if (core::fileExists(file)) {
-        int miesiac = static_cast<int>(core::Val(s.miesiac()));
-        u = urlopMiesiaca(Urlop::readAll(file), s.KluczOsoby, miesiac);
+        // Block by block until the person's; reading stops after the list's month.
+        const int miesiac = static_cast<int>(core::Val(s.miesiac()));
+        core::SeqReader in(file);
+        while (!in.eof() && !u.znaleziony) {
+            bool urwany = false;
+            Urlop::Blok b = Urlop::readBlok(in, miesiac, urwany);
+            u = urlopMiesiaca({b}, s.KluczOsoby, miesiac);
+            if (urwany && !u.znaleziony)
+                throw core::Error(core::err::InputPastEnd, in.name(), "plik " + in.name() + " skończył się w środku bloku osoby");
+        }
     }
     s.wynik.DniUrlopu = u.DniUrlopu;
     s.wynik.StawkaUrlopowa = u.Stawka;

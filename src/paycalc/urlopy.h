@@ -49,6 +49,10 @@ std::vector<Blok> readAll(const std::filesystem::path& file);
 std::vector<Blok> readAll(core::SeqReader& in);
 // One block from the reader's position.
 Blok readBlok(core::SeqReader& in);
+// One block read for the leave of month `miesiac`: when the file ends inside the block after
+// that month, what the month needs is there; the block comes back with the later months
+// unread (invalid records) and `urwany` set. A file ending before it gives Error 62.
+Blok readBlok(core::SeqReader& in, int miesiac, bool& urwany);
 // Rewrites the file with the blocks, through `tempName` in its folder.
 void writeAll(const std::filesystem::path& file, const std::vector<Blok>& blocks, const std::string& tempName = "TYMCZ.dta");
 // A new block for a person: names, identifier and Etat, the values 5 to 9 as a new record has

@@ -64,7 +64,15 @@ ZbioryListy wczytajZbiory(const core::Session& s) {
     if (core::fileExists(urlopy)) {
         try {
             core::SeqReader in(urlopy);
-            while (!in.eof()) z.urlopy.dodaj(Urlop::readBlok(in));
+            const int miesiac = static_cast<int>(core::Val(s.miesiac()));
+            bool urwany = false;
+            while (!in.eof() && !urwany) {
+                z.urlopy.dodaj(Urlop::readBlok(in, miesiac, urwany));
+                // A block cut after the month serves its person; anyone else would read past it.
+                if (urwany)
+                    z.urlopy.przerwano(core::Error(core::err::InputPastEnd, in.name(),
+                                                   "plik " + in.name() + " skończył się w środku bloku osoby"));
+            }
         } catch (const core::Error& e) {
             z.urlopy.przerwano(e);
         }

@@ -182,6 +182,9 @@ std::vector<core::Record> readAll(const std::filesystem::path& file) { return co
 void renumber(std::vector<core::Record>& recs, const std::string& koniec) {
     long numer = 0;
     for (core::Record& r : recs) {
+        // The citizenship as every reader takes it: nothing or "0..." is Polish, and so it is written.
+        const std::string obywatelstwo = r.s(Obywatelstwo);
+        if (obywatelstwo.empty() || obywatelstwo[0] == '0') r.set(Obywatelstwo, "POLSKIE");
         r.set(Poczatek, kPoczatek);
         r.set(Koniec, koniec);
         r.set(Numer, ++numer);

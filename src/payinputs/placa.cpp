@@ -315,8 +315,10 @@ void PlacaScreen::przepisz(core::Record& r) {
     const float wskaznik = licznik != 0 && mianownik != 0 ? static_cast<float>(licznik / mianownik)
                                                           : static_cast<float>(core::Val(txt(Pay::WskaznikEtatu).Text));
     if (r.f(Pay::WskaznikEtatu) != wskaznik || r.isEmpty(Pay::WskaznikEtatu)) r.set(Pay::WskaznikEtatu, wskaznik);
-    // 3. A record without a date of hire gets the seniority allowance from the new date.
-    if (bezDaty && !Option2.Value) {
+    // 3. A record without a date of hire gets the seniority allowance from the new date, unless
+    // the record itself says the allowance is fixed (the options reach the record in step 4).
+    const std::string staly = r.s(Pay::DodatekStazowy);
+    if (bezDaty && (staly.empty() || staly == "0")) {
         Staz st = obliczStaz(r.s(Pay::DataZatrudnienia), s.DataListy, grupa(), s.SkrotPlatnika);
         float stazowy = core::Round2(static_cast<double>(r.f(Pay::Zasadnicza)) * st.stazProcent / 100);
         r.set(Pay::Stazowy, stazowy);
@@ -380,7 +382,7 @@ void PlacaScreen::cmdWpiszDane() {
         lbBrakDanych.Visible = false;
         if (!dopasowany && s.NowyZapis == "N") Load();
     } catch (const core::Error& e) {
-        ui.msgBox(core::errorReport(e, core::ReportWords::Linii), Buttons::OK, Icon::Critical);
+        showError(e, core::ReportWords::Linii);
     }
     odswiezProgi();
 }
@@ -397,7 +399,7 @@ void PlacaScreen::cmdZapiszZmiany() {
             "TYMCZ.dta", "<koniec>");
         ui.msgBox("Zmiany wykonane !", Buttons::OK, Icon::Information, "zmiany)");
     } catch (const core::Error& e) {
-        ui.msgBox(core::errorReport(e, core::ReportWords::NrLini), Buttons::OK, Icon::Critical);
+        showError(e, core::ReportWords::NrLini);
     }
     odswiezProgi();
 }

@@ -208,9 +208,6 @@ void Osoba1Screen::trybNowej(int numer) {
     txtImie.Text = s.ImieOsoby;
     txtPesel.Text = s.KluczOsoby;
     txtKodUbezpieczenia.Text = s.KodUbezpieczeniaOsoby;
-    // A new person is Polish unless told otherwise, and in the group of the list.
-    txtObywatelstwo.Text = "POLSKIE";
-    txtGrupa.Text = s.Grupa;
     txtNumerIP.Text = std::to_string(numer);
     setOption(Option1);
     cmdZapiszZmiany_.Visible = false;

@@ -491,7 +491,7 @@ void DrukListy::modkoncowka() {
           " ...............   zatwierdził  ....................");
 }
 
-void cmdDrukListy(core::Session& s, core::Dialogs& ui) {
+void cmdDrukListy(core::Session& s, core::Dialogs& ui, std::optional<core::Record>* sumyPoWydruku) {
     DrukListy d(s, ui, ui.printer());
     if (!d.SprawdzDrukarke()) return;
     try {
@@ -501,7 +501,7 @@ void cmdDrukListy(core::Session& s, core::Dialogs& ui) {
         if (DrukListy::bladDrukarki(ui, e)) return;
         throw;
     }
-    d.modDrukujListe();
+    if (d.modDrukujListe(sumyPoWydruku == nullptr) && sumyPoWydruku) *sumyPoWydruku = d.sumy;
 }
 
 void CmdPaski(core::Session& s, core::Dialogs& ui) {

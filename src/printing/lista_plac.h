@@ -3,6 +3,7 @@
 // the employer's contributions and the signature line; the list's sums go to
 // SUMY\S<list><RRmm>.sum after each full print of the list.
 #pragma once
+#include <optional>
 #include <array>
 #include <functional>
 #include <string>
@@ -92,7 +93,10 @@ private:
 };
 
 // The commands of the workspace: "&Druk listy płac" and "p&Aski", on the program's printer.
-void cmdDrukListy(core::Session& s, core::Dialogs& ui);
+// The pay list writes the list's sums file after the print. A caller whose pages go out later
+// (the command line, into a file) passes `sumyPoWydruku`: the sums are left there, and the
+// caller writes them (Sumy::write) once the pages are out whole.
+void cmdDrukListy(core::Session& s, core::Dialogs& ui, std::optional<core::Record>* sumyPoWydruku = nullptr);
 void CmdPaski(core::Session& s, core::Dialogs& ui);
 
 }  // namespace printing

@@ -112,7 +112,7 @@ void modSpecyfikacja(core::Session& s, core::Dialogs& ui, const fs::path& plik) 
     core::Printer& p = ui.printer();
     if (int st = p.status()) throw core::Error(st, "drukarka");
     p.setFont("Courier New", 9, false);
-    p.print("     Specyfikacja banknotow i bilonu za miesiac " + s.miesiac() + " " + s.rok());
+    p.print("     Specyfikacja banknotow i bilonu za miesiac " + s.miesiac());
     p.print("     " + core::RTrim(s.NazwaListy) + " do list" + "y" + " plac NR." + s.NumerListy);
     p.emptyLine();
     auto kom = [&](const char* znak, int grosze) {

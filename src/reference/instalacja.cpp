@@ -32,6 +32,7 @@ InstalacjaScreen::InstalacjaScreen(core::Dialogs& ui, core::Session& session)
     txtGrupa1.ToolTipText = "Nauczyciele =n , administracja =a , produkcja =p , umowy zlecenia =u";
     txtZestaw.in("fraLista").at(3, 0).label("Okreslenie zestawu przyporzadkowuje dana liste do  zbiorówek").width(1);
     txtZestaw.ToolTipText = "Litera zestawu, np. A lub B";
+    txtZestaw.Field = Instal::ZestawListy;
     lbTryb.at(4, 0, 3);
     cmdDodajliste_.at(5, 0);
     cmdaktual_.at(5, 1);
@@ -115,9 +116,6 @@ bool InstalacjaScreen::check() {
     if (core::Trim(txtNazwaListy1.Text).empty()) return refuse("Podaj nazwę listy płac.", txtNazwaListy1);
     std::string why = badListStem(txtSkrotlisty1.Text);
     if (!why.empty()) return refuse(why + " Zmian nie zapisano.", txtSkrotlisty1);
-    for (core::Control* c : {&txtNazwaListy1, &txtGrupa1, &txtZestaw})
-        if (c->Text.find('"') != std::string::npos)
-            return refuse("Dane listy nie mogą zawierać cudzysłowu (\"). Zmian nie zapisano.", *c);
     return true;
 }
 
@@ -129,28 +127,31 @@ void InstalacjaScreen::cmdZapisz() {
         return;
     }
     if (!check()) return;
-    if (ui.msgBox("Czy chcesz zapisac nowe dane ?", Buttons::YesNo, Icon::Question, "Dodaje nową liste do systemu !") !=
-        Answer::Yes)
-        return;
-    auto lines = Instal::read(s);
-    int saved;
-    if (Tryb == 1) {
-        lines.push_back(Instal::newLine(txtNazwaListy1.Text, txtSkrotlisty1.Text, txtGrupa1.Text, txtZestaw.Text,
-                                        std::to_string(lines.size() + 1), s.Rezerwa4));
-        saved = static_cast<int>(lines.size()) - 1;
-    } else {
-        saved = lstListaI.ListIndex;
-        if (saved >= static_cast<int>(lines.size()))
-            throw core::Error(core::err::SubscriptOutOfRange, "instal.dat, linia " + std::to_string(saved + 1),
-                              "wybranej listy nie ma już w pliku");
-        core::Record& l = lines[static_cast<std::size_t>(saved)];
-        Instal::setFields(l, txtNazwaListy1.Text, txtSkrotlisty1.Text, txtGrupa1.Text, txtZestaw.Text);
-        l.set(Instal::Rezerwa4, s.Rezerwa4);
-    }
-    Instal::write(s, lines);
-    fillList(saved);
-    lstListaI_Click();
-    setTryb(0);
+    // The line is made before the question, so that what the file cannot hold is said first.
+    guarded([&] {
+        auto lines = Instal::read(s);
+        int saved;
+        if (Tryb == 1) {
+            lines.push_back(Instal::newLine(txtNazwaListy1.Text, txtSkrotlisty1.Text, txtGrupa1.Text, txtZestaw.Text,
+                                            std::to_string(lines.size() + 1), s.Rezerwa4));
+            saved = static_cast<int>(lines.size()) - 1;
+        } else {
+            saved = lstListaI.ListIndex;
+            if (saved >= static_cast<int>(lines.size()))
+                throw core::Error(core::err::SubscriptOutOfRange, "instal.dat, linia " + std::to_string(saved + 1),
+                                  "wybranej listy nie ma już w pliku");
+            core::Record& l = lines[static_cast<std::size_t>(saved)];
+            Instal::setFields(l, txtNazwaListy1.Text, txtSkrotlisty1.Text, txtGrupa1.Text, txtZestaw.Text);
+            l.set(Instal::Rezerwa4, s.Rezerwa4);
+        }
+        if (ui.msgBox("Czy chcesz zapisac nowe dane ?", Buttons::YesNo, Icon::Question,
+                      "Dodaje nową liste do systemu !") != Answer::Yes)
+            return;
+        Instal::write(s, lines);
+        fillList(saved);
+        lstListaI_Click();
+        setTryb(0);
+    });
 }
 
 void InstalacjaScreen::cmdUsu() {

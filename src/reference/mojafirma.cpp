@@ -56,8 +56,6 @@ const core::FieldBox kBoxes[] = {
     {Firma::DodatkiStazowe, "txtDodatkiStazowe", "Dodatki Stażowe (Oskładkowane =T  ,Nie =N ", "fraRozliczenia", -1, 2},
 };
 
-bool isWholeLine(int field) { return field == Firma::NazwaM || field == Firma::NazwaSkrocona; }
-
 const char* const kTytulBledu = "Błędne dane Płatnika";
 
 }  // namespace
@@ -189,16 +187,6 @@ void MojaFirmaScreen::cmdDodaj() {
 }
 
 bool MojaFirmaScreen::check() {
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        const core::FieldBox& b = boxes.def(i);
-        core::Control& c = boxes.box(i);
-        if (!isWholeLine(b.field) && c.Text.find('"') != std::string::npos) {
-            ui.msgBox("Pole \"" + core::Trim(b.label) + "\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.",
-                      Buttons::OK, Icon::Exclamation, kTytulBledu);
-            SetFocus(c);
-            return false;
-        }
-    }
     core::Control& st = txt(Firma::WypadkowaStawkaF);
     std::string t = core::Trim(core::KropkaZamiastPrzecinka(std::string(st.Text)));
     if (!t.empty() && !core::isNumeric(t)) {
@@ -236,8 +224,13 @@ void MojaFirmaScreen::cmdZmianyM() {
         return;
     }
     core::Record& r = recs[static_cast<std::size_t>(i)];
-    take(r);
-    Firma::writeAll(Firma::path(s), recs);
+    bool saved = false;
+    guarded([&] {
+        take(r);
+        Firma::writeAll(Firma::path(s), recs);
+        saved = true;
+    });
+    if (!saved) return;
     // The payer of the session takes its new values at once (its own accident rate too).
     if (r.s(Firma::SkrotPlatnika) == s.SkrotPlatnika) {
         s.Firma = r;

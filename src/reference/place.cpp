@@ -115,7 +115,14 @@ PlaceScreen::PlaceScreen(core::Dialogs& ui, core::Session& session)
     lbKopia.Visible = prbKopia.Visible = false;
 
     cmdPotwierdz_.Click = [this] { cmdPotwierdz(); };
-    txtDataListyS.KeyEnter = [this] { cmdPotwierdz(); };
+    // Enter takes the calendar's date, and the calendar follows a real date typed in the box,
+    // so what the clerk sees is what Enter confirms.
+    txtDataListyS.KeyEnter = [this] { MonthView1_DateClick(); };
+    txtDataListyS.Change = [this] {
+        core::Date d;
+        if (core::Len(core::Trim(txtDataListyS.Text)) == 10 && core::parseDate(core::Trim(txtDataListyS.Text), d))
+            MonthView1.Text = core::FormatDate(d, "dd-mm-yyyy");
+    };
     txtDataListyS.Click = [this] { MonthView1.Visible = true; };
     MonthView1.Click = [this] { MonthView1_DateClick(); };
     cmdAkceptuj_.Click = [this] { cmdAkceptuj(); };
@@ -287,10 +294,8 @@ void PlaceScreen::Activate() {
 
 void PlaceScreen::cmdPotwierdz() {
     std::string t = core::Trim(txtDataListyS.Text);
-    auto part = [&](std::size_t start) {
-        std::string p = core::Mid(t, start, 2);
-        return core::isNumeric(p) ? core::Val(p) : -1.0;
-    };
+    // Day and month by the value of their two characters: "3-" is 3.
+    auto part = [&](std::size_t start) { return core::Val(core::Mid(t, start, 2)); };
     bool ok = core::Len(t) == 10;
     if (ok) {
         double d = part(1), m = part(4);

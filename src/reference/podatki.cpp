@@ -196,17 +196,19 @@ void ObslugaScreen::Load() {
 }
 
 void ObslugaScreen::cmdZapisz() {
-    const std::string year = s.rok();
-    fs::path file = Dane::path(s);
-    std::vector<core::Record> recs = core::readAll(file, Dane::schema());
-    for (core::Record& r : recs) {
-        if (r.s(Dane::Rok) != year) continue;
-        r.set(Dane::Administrator1, txtAdministrator1.Text);
-        r.set(Dane::Administrator2, txtAdministrator2.Text);
-        lbAdministrator.Caption = administrator(r);
-    }
-    core::writeAll(file, recs, "tymczd.dta");
-    loadRates(s);
+    guarded([&] {
+        const std::string year = s.rok();
+        fs::path file = Dane::path(s);
+        std::vector<core::Record> recs = core::readAll(file, Dane::schema());
+        for (core::Record& r : recs) {
+            if (r.s(Dane::Rok) != year) continue;
+            r.set(Dane::Administrator1, txtAdministrator1.Text);
+            r.set(Dane::Administrator2, txtAdministrator2.Text);
+            lbAdministrator.Caption = administrator(r);
+        }
+        core::writeAll(file, recs, "tymczd.dta");
+        loadRates(s);
+    });
 }
 
 }  // namespace reference

@@ -95,3 +95,16 @@ TEST(LedgerCli, BadArguments) {
     EXPECT_EQ(r.status, 1);
     EXPECT_TRUE(zawiera(r.err, "53")) << r.err;
 }
+
+TEST(LedgerCli, PeopleWithoutAPayRecordAreNamedOnStandardError) {
+    Demo d;
+    // The third pay record (ZIELIŃSKI) taken out of the pay file of 155 lines a record.
+    auto lines = testing_support::readLines(d.baza());
+    lines.erase(lines.begin() + 2 * 155, lines.begin() + 3 * 155);
+    testing_support::writeLines(d.baza(), lines);
+    auto r = d.cli({"--yes", "ledger", "a"});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_TRUE(zawiera(r.err, "[Osoby bez danych płacowych] Te osoby listy nie mają danych płacowych:\n"
+                               "  ZIELIŃSKI PIOTR, 88110578938\nIch rekordy")) << r.err;
+    EXPECT_TRUE(zawiera(r.out, "osób: 7")) << r.out;
+}

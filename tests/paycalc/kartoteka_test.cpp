@@ -259,7 +259,8 @@ TEST(PodstawaRoczna, SumsTheMonthsPresentAndLeavesTheThirteenthOut) {
     EXPECT_EQ(podstawaRoczna(d.s, klucz, "2021"), 15812.5f);
     EXPECT_EQ(podstawaRoczna(d.s, klucz, "19"), 777.0f);
     EXPECT_EQ(podstawaRoczna(d.s, klucz, "2018"), 0.0f);
-    EXPECT_EQ(podstawaRoczna(d.s, "63072245629", ""), 9999.0f);
+    // 9999 and her overtime of January in the demo, 142.85.
+    EXPECT_EQ(podstawaRoczna(d.s, "63072245629", ""), 10141.85f);
     EXPECT_EQ(podstawaRoczna(d.s, "00000000000", ""), 0.0f);
 }
 
@@ -317,5 +318,11 @@ TEST(Kartoteka, PersonWithoutAPayRecordKeepsTheFiguresBeforeIt) {
     for (int n : {Karta::Zasadnicza, Karta::Brutto, Karta::DoWyplaty, Karta::NumerKonta, Karta::PodstawaZUS})
         EXPECT_EQ(karta[2].s(n), karta[1].s(n)) << n;
     EXPECT_EQ(karta[1].s(Karta::Zasadnicza), "4800");
-    EXPECT_EQ(d.ui.boxes.size(), 2u);
+    // After the closing box one warning names him, as the bank would otherwise pay twice.
+    ASSERT_EQ(d.ui.boxes.size(), 3u);
+    EXPECT_EQ(d.ui.lines()[1], "[Kartoteka z listy plac a] Wykonano kartotekę za 2101");
+    EXPECT_EQ(d.ui.last(),
+              "[Osoby bez danych płacowych] Te osoby listy nie mają danych płacowych:\n  ZIELIŃSKI PIOTR, 88110578938\n"
+              "Ich rekordy w kartotece powtarzają kwoty osoby poprzedniej (także kwotę do wypłaty i konto) i muszą "
+              "zostać poprawione przed wypłatami i przelewami.");
 }

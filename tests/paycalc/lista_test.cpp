@@ -114,7 +114,8 @@ TEST(Lista, ChoosingAPersonFillsTheSessionAndTheNames) {
     // The frame of the chosen tab, empty without the month's file.
     EXPECT_TRUE(e.f.Frame1.Visible);
     for (int t = 2; t <= 5; ++t) EXPECT_FALSE(e.f.ramka(t).Visible);
-    EXPECT_EQ(e.pole(1, Dodatkowy::Podstawa), "");
+    // The demo's overtime of January holds her record.
+    EXPECT_EQ(e.pole(1, Dodatkowy::Podstawa), "3600");
     EXPECT_TRUE(e.ui.boxes.empty());
 }
 
@@ -128,6 +129,22 @@ TEST(Lista, LongSurnameIsCutOnTheLineAndInTheSession) {
     e.wybierz(0);
     EXPECT_EQ(e.s.NazwiskoOsoby, "BRZĘCZYSZCZYKIEWICZ-KONST");
     EXPECT_EQ(e.s.KluczOsoby, "75031412317");
+}
+
+TEST(Lista, LongDocumentIsCutOnTheLineButChosenWhole) {
+    Ekran e;
+    auto osoby = e.osoby();
+    osoby[0].set(Osoba::Obywatelstwo, "UKRAIŃSKIE");
+    osoby[0].set(Osoba::Paszport, "FP12345678901");
+    e.zapiszOsoby(osoby);
+    e.f.Load();
+    EXPECT_EQ(core::Mid(e.f.lstlista.List[0], 56, 12), "FP123456789 ");
+    e.wybierz(0);
+    EXPECT_EQ(e.s.KluczOsoby, "FP12345678901");
+    e.ui.answer(Answer::OK).answer(Answer::No);
+    e.kliknij("cmdUsuń");
+    ASSERT_EQ(e.osoby().size(), 6u);
+    EXPECT_EQ(e.osoby()[0].s(Osoba::Nazwisko), osoby[1].s(Osoba::Nazwisko));
 }
 
 TEST(Lista, MoreThan250PeopleRaiseTheBoundsError) {
@@ -163,21 +180,22 @@ TEST(Lista, TabWithoutTheMonthsFileAsksAndCancelLeavesItEmpty) {
     e.f.Load();
     e.wybierz(0);
     e.ui.answer(Answer::Cancel);
-    e.zakladka(2);
-    EXPECT_TRUE(e.f.Frame2.Visible);
+    e.zakladka(3);
+    EXPECT_TRUE(e.f.Frame3.Visible);
     EXPECT_FALSE(e.f.Frame1.Visible);
     ASSERT_EQ(e.ui.boxes.size(), 1u);
     EXPECT_EQ(e.ui.lines()[0], "[Zakładanie dodatkowego zbioru do kartoteki miesięcznej! ] Czy napewno chcesz zakładać "
                                "wybrany zbiór na ten miesiąc - z aktualnych danych ? ");
     EXPECT_EQ(e.ui.boxes[0].buttons, core::Buttons::OKCancel);
-    EXPECT_FALSE(core::fileExists(e.payer() / "Dodatki" / "aDod2101.dta"));
-    EXPECT_EQ(e.pole(2, Dodatkowy::Kw1), "");
+    EXPECT_FALSE(core::fileExists(e.payer() / "Trzynastki" / "aTrz2101.dta"));
+    EXPECT_EQ(e.pole(3, Dodatkowy::Podstawa), "");
     EXPECT_EQ(e.f.lbStatus.Caption, "");
     EXPECT_GE(e.ui.events, 1);  // the hint was shown while the question stood
 }
 
 TEST(Lista, TabCreatesTheMonthsFileFromTheCurrentRecords) {
     Ekran e;
+    for (const char* f : {"Godziny/aGod2101.dta", "Dodatki/aDod2101.dta"}) std::filesystem::remove(e.payer() / f);
     e.f.Load();
     e.wybierz(0);
     e.zakladka(1);
@@ -192,11 +210,11 @@ TEST(Lista, TabCreatesTheMonthsFileFromTheCurrentRecords) {
     EXPECT_EQ(recs[0].s(Dodatkowy::StawkaPodatku), "0.17");
     EXPECT_EQ(recs[0].s(Dodatkowy::DataListy), "31-01-2021");
     EXPECT_TRUE(recs[0].isEmpty(Dodatkowy::KwotaBrutto));
-    // The chosen person's record on the frame, read-only.
+    // The chosen person's record on the frame, the base open to typing.
     EXPECT_EQ(e.pole(1, Dodatkowy::Podstawa), "5200");
-    EXPECT_EQ(e.pole(1, Dodatkowy::NumerKonta), "25 1020 5011 1083 5734 3193 9106");
-    EXPECT_EQ(e.pole(1, Dodatkowy::DataListy), "31-01-2021");
-    EXPECT_TRUE(e.f.pole(1, Dodatkowy::Podstawa)->Locked);
+    EXPECT_EQ(e.f.kontrolka("lbNumerKontaG").Caption, "25 1020 5011 1083 5734 3193 9106");
+    EXPECT_EQ(e.f.kontrolka("lbDataListyG").Caption, "31-01-2021");
+    EXPECT_FALSE(e.f.pole(1, Dodatkowy::Podstawa)->Locked);
     // A second visit asks nothing; another person shows their record.
     e.ui.boxes.clear();
     e.ui.answer(Answer::Cancel);
@@ -357,4 +375,40 @@ TEST(Lista, RegisteredAsFrmlista) {
     ASSERT_TRUE(d.ui.open("frmlista", d.s));
     EXPECT_EQ(d.ui.formsShown, (std::vector<std::string>{"frmlista"}));
     EXPECT_EQ(d.s.LiczbaOsob, 7);
+}
+
+TEST(Lista, AdditionsTabKeepsTheSwitchesOfEachKind) {
+    Ekran e;
+    e.f.Load();
+    e.wybierz(0);
+    e.zakladka(2);  // founds the month's file (OK)
+    e.f.kontrolka("txtDodatek1").Text = "1000";
+    e.f.kontrolka("txtMieszkaniowy").Text = "200";
+    e.kliknij("optD3");
+    e.f.kontrolka("ChkNFZD").Value = 0;
+    e.kliknij("ChkNFZD");
+    e.kliknij("optD1");
+    EXPECT_EQ(e.f.kontrolka("ChkNFZD").Value, 1);
+    e.f.kontrolka("OpcjaRORD").Value = 1;
+    e.kliknij("cmdWyliczD");
+    EXPECT_EQ(e.ui.last(), "[]  Wyliczone !");
+    const core::Record r = Dodatkowy::readAll(Dodatkowy::path(e.s, Dodatkowy::Rodzaj::Dod))[0];
+    EXPECT_EQ(r.s(Dodatkowy::Il1), "000");
+    EXPECT_EQ(r.s(Dodatkowy::Il3), "001");
+    EXPECT_EQ(r.s(Dodatkowy::Il6), "010");
+    // Contributions 117.12 + 18.00 + 29.40 on 1200; health on the first 1000 only.
+    EXPECT_EQ(e.f.kontrolka("LbRazemSkładkiD").Caption, "164.52");
+    EXPECT_EQ(e.f.kontrolka("LbPodstawaKasyD").Caption, "835.48");
+    EXPECT_EQ(e.f.kontrolka("LbDoWypłatyD").Caption, "0");
+    EXPECT_EQ(r.s(Dodatkowy::OpcjaROR), "1");
+    EXPECT_EQ(e.f.kontrolka("LbNaKontoRORD").Caption, r.s(Dodatkowy::NaROR));
+    EXPECT_EQ(e.f.lbInfo.Caption, "");
+    // Back on the person: the switches come from the file.
+    e.wybierz(1);
+    e.wybierz(0);
+    EXPECT_EQ(e.f.kontrolka("LbRazemSkładkiD").Caption, "164.52");
+    EXPECT_EQ(e.f.kontrolka("LbEmerytalnaD").Caption, "");
+    e.kliknij("optD3");
+    EXPECT_EQ(e.f.kontrolka("ChkNFZD").Value, 0);
+    EXPECT_EQ(e.f.kontrolka("ChkSkladkiZUSD").Value, 1);
 }

@@ -120,6 +120,18 @@ TEST(Lookups, CodedMonthOfTheBirthDateStopsTheCalculation) {
     EXPECT_EQ(w.wPodstawaFP, 555.0f);
 }
 
+TEST(Lookups, GrossBeyondAFloatIsAnOverflow) {
+    fx::Lista l("31-01-2009");
+    core::Record& p = l.dodaj("70051512345", 3e38f);
+    p.set(Pay::Premia, 3e38f);
+    try {
+        l.licz("70051512345");
+        FAIL() << "an infinite gross must not pass";
+    } catch (const core::Error& e) {
+        EXPECT_EQ(core::errorReport(e).rfind(" Błąd nr 6 ", 0), 0u) << core::errorReport(e);
+    }
+}
+
 TEST(Lookups, FileErrors) {
     // No pay file: Error 53.
     {

@@ -3,6 +3,7 @@
 
 #include "fixture.h"
 #include "paycalc/urlopy.h"
+#include "paycalc/wyliczenie.h"
 #include "support/tempdir.h"
 
 using namespace paycalc;
@@ -159,4 +160,41 @@ TEST(LeaveFile, ModUrlopReadsTheFileOfTheYear) {
     l.s.DataListy = "31-03-2010";
     modUrlop(l.s);
     EXPECT_EQ(l.s.wynik.DniUrlopu, 0);
+}
+
+TEST(LeaveFile, BlockCutAfterTheListsMonthServesItsPerson) {
+    // Two blocks; the file ends inside the second one. A block is 385 lines: the header, then
+    // 32 lines a month, so March ends at line 1 + 3 * 32 of the block.
+    struct {
+        const char* what;
+        int linesOfSecond;
+        bool serves;
+    } cases[] = {
+        {"cut in April", 1 + 3 * 32 + 5, true},
+        {"cut right after March", 1 + 3 * 32, true},
+        {"cut in March", 1 + 3 * 32 - 1, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        fx::Lista l("31-03-2009");
+        Urlop::Blok a = blok("60010112345", "1"), b = blok("70051512345", "1");
+        stawka(b, 3, "100");
+        kod(b, 3, 2, "U8");
+        const auto file = Urlop::path(l.s, "2009");
+        Urlop::writeAll(file, {a, b});
+        auto lines = readLines(file);
+        lines.resize(385 + static_cast<std::size_t>(c.linesOfSecond));
+        testing_support::writeLines(file, lines);
+        l.s.KluczOsoby = "70051512345";
+        if (c.serves) {
+            EXPECT_EQ(modUrlop(l.s).DniUrlopu, 1);
+            EXPECT_EQ(wczytajZbiory(l.s).urlopy.znajdz("70051512345").wUrlopowe, 100.0f);
+        } else {
+            EXPECT_THROW(modUrlop(l.s), core::Error);
+            EXPECT_THROW(wczytajZbiory(l.s).urlopy.znajdz("70051512345"), core::Error);
+        }
+        // The person before the cut is whole either way; one not in the file reads past the cut.
+        EXPECT_TRUE(wczytajZbiory(l.s).urlopy.znajdz("60010112345").znaleziony);
+        EXPECT_THROW(wczytajZbiory(l.s).urlopy.znajdz("99999999999"), core::Error);
+    }
 }

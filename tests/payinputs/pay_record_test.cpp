@@ -125,6 +125,12 @@ TEST(PayFile, IdentifierByCitizenship) {
                                                          {Pay::Obywatelstwo, std::string("\"") + c.obywatelstwo + "\""}})));
         auto r = core::readRecord(in, Pay::schema());
         EXPECT_EQ(kluczOsoby(r), c.klucz) << c.obywatelstwo;
+        // A rewritten record carries the citizenship as it was read.
+        TempDir dir;
+        core::commitFile(dir / "a.dta", tekst(linie({{Pay::Obywatelstwo, std::string("\"") + c.obywatelstwo + "\""}})));
+        Pay::replace(dir / "a.dta", "inny", [](core::Record&) {}, "TYMCZ.dta");
+        const std::string zapisane = Pay::readAll(dir / "a.dta")[0].s(Pay::Obywatelstwo);
+        EXPECT_EQ(zapisane, *c.obywatelstwo == '\0' || *c.obywatelstwo == '0' ? "POLSKIE" : c.obywatelstwo);
     }
 }
 

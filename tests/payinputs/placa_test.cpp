@@ -275,18 +275,24 @@ TEST(Placa, SeniorityForARecordWithoutDateOfHire) {
     struct {
         const char *data, *grupa, *dodatek;
         const char* stazowy;
+        const char* wRekordzie = "";  // the record's flag before the save
     } cases[] = {
         {"01-01-2010", "a", "", "440"},   // 11 years of 4000
         {"15-01-2010", "a", "", "400"},   // hired later in the list month: 10 years
         {"01-02-2018", "a", "", "0"},     // 2 years: below 5
         {"01-02-2017", "n", "", "120"},   // a teacher from 3 years: 3 percent
         {"01-01-1990", "a", "", "800"},   // 31 years: 20 percent
-        {"01-01-2010", "a", "1", "123"},  // a fixed allowance is not computed
+        {"01-01-2010", "a", "1", "123", "1"},  // a fixed allowance is not computed
+        // The decision reads the flag the record had; the option reaches it afterwards.
+        {"01-01-2010", "a", "", "123", "1"},
+        {"01-01-2010", "a", "1", "440", ""},
+        {"01-01-2010", "a", "1", "440", "0"},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.data) + " " + c.grupa + " " + c.dodatek);
+        SCOPED_TRACE(std::string(c.data) + " " + c.grupa + " " + c.dodatek + " " + c.wRekordzie);
         DemoList d;
         auto recs = Pay::readAll(d.dta());
+        recs[0].set(Pay::DodatekStazowy, c.wRekordzie);
         recs[0].set(Pay::DataZatrudnienia, "");
         recs[0].set(Pay::Zasadnicza, 4000.0f);
         recs[0].set(Pay::Stazowy, 123.0f);
@@ -351,4 +357,30 @@ TEST(Placa, MissingPayFileIsMadeByTheFirstRecord) {
     ASSERT_EQ(r.size(), 1u);
     EXPECT_EQ(r[0].i(Pay::Numer), 1);
     EXPECT_EQ(r[0].s(Pay::Grupa), "a");
+}
+
+TEST(Placa, DoubleQuoteIsRefusedWithTheFileWhole) {
+    struct {
+        const char* what;
+        int field;
+        bool newRecord;
+        std::string box;
+    } cases[] = {
+        {"account, changes", Pay::NumerKontaROR, false, "Nr konta ROR"},
+        {"end of employment, record made again", Pay::DataZatrudnieniaDO, true, "Data zatrudnienia Do"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        DemoList d;
+        d.wybierz(2);
+        const std::string before = readBytes(d.dta());
+        ScriptedDialogs ui;
+        PlacaScreen f(ui, d.s);
+        f.Load();
+        f.txt(c.field).Text = "12 \"34\" 56";
+        c.newRecord ? f.cmdWpiszDane() : f.cmdZapiszZmiany();
+        EXPECT_EQ(ui.last(), "[Błędne dane] Pole \"" + c.box + "\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.");
+        EXPECT_EQ(f.FocusTo, f.txt(c.field).Name);
+        EXPECT_EQ(readBytes(d.dta()), before);
+    }
 }

@@ -5,6 +5,7 @@
 #include "personnel/demo_list.h"
 #include "personnel/osoba1.h"
 #include "personnel/person_record.h"
+#include "personnel/sortuj.h"
 #include "support/scripted.h"
 
 using namespace personnel;
@@ -451,4 +452,76 @@ TEST(Osoba1, OtherScreensOfThePersonByName) {
     f.fire(f.lista, &core::Control::Click);
     EXPECT_TRUE(f.Unloaded);
     EXPECT_TRUE(ui.boxes.empty());
+}
+
+TEST(Osoba1, DoubleQuoteIsRefusedByEveryWriterOfThePersonFile) {
+    const std::string box = "[Błędne dane] Pole \"Ulica\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.";
+    struct {
+        const char* what;
+        std::function<void(DemoList&, ScriptedDialogs&)> run;
+        std::string box;
+    } cases[] = {
+        {"changes with a comma",
+         [](DemoList& d, ScriptedDialogs& ui) {
+             d.wybierz(1);
+             Osoba1Screen f(ui, d.s);
+             f.Load();
+             f.TxtUlica.Text = "Aleja \"Róż\", 5";
+             f.cmdZapiszZmiany();
+             EXPECT_EQ(f.FocusTo, "TxtUlica");
+         }, box},
+        {"new person",
+         [](DemoList& d, ScriptedDialogs& ui) {
+             d.nowa();
+             Osoba1Screen f(ui, d.s);
+             f.Load();
+             f.txtPesel.Text = "92010112345";
+             f.txtObywatelstwo.Text = "POLSKIE";
+             f.TxtUlica.Text = "Aleja \"Róż\"";
+             f.cmdZapiszNowaOsobe();
+         }, box},
+        {"renumbering in the sort",
+         [](DemoList& d, ScriptedDialogs& ui) {
+             SortujKadroweScreen f(ui, d.s);
+             f.Load();
+             f.MSFlexGrid7.Row = 1;
+             f.MSFlexGrid7.Col = 1;
+             ui.type(std::string("1\""));
+             f.MSFlexGrid7_DblClick();
+             f.cmdZapiszPosortowane();
+         }, "[Błędne dane] Pole \"NumerIP\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano."},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        DemoList d;
+        const std::string before = readBytes(d.per());
+        ScriptedDialogs ui;
+        c.run(d, ui);
+        EXPECT_EQ(ui.last(), c.box);
+        EXPECT_EQ(readBytes(d.per()), before);
+    }
+}
+
+TEST(Osoba1, NewPersonModeEmptiesEveryOtherBox) {
+    DemoList d;
+    d.wybierz(0);  // the boxes of a person shown before must not stay
+    d.s.Grupa = "n";
+    d.nowa();
+    ScriptedDialogs ui;
+    Osoba1Screen f(ui, d.s);
+    f.Load();
+    for (const core::Control* c : f.controls()) {
+        if (c->kind != core::Kind::TextBox) continue;
+        const std::string n = c->Name;
+        if (n == "txtNazwisko" || n == "txtImie" || n == "txtPesel" || n == "txtKodUbezpieczenia" || n == "txtNumerIP")
+            continue;
+        EXPECT_EQ(c->Text, "") << n;
+    }
+    // So the citizenship is asked for on adding.
+    f.txtNazwisko.Text = "Nowicki";
+    f.txtImie.Text = "Adam";
+    f.txtPesel.Text = "92010112345";
+    f.cmdZapiszNowaOsobe();
+    EXPECT_EQ(ui.lines(), lines({"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany", "[Błąd] Ustal Obywatelstwo",
+                                 "[Dopisany] Rekord zostal dopisany "}));
 }

@@ -103,3 +103,14 @@ TEST(CliDruk, DemoListAsPdfKeepsTheWholeLineOnTheSheet) {
     EXPECT_NE(strona2.find("6.MAREK"), std::string::npos);
     EXPECT_NE(strona2.find("7.EWA"), std::string::npos);
 }
+
+TEST(CliDruk, SumsAreWrittenOnlyWhenTheListWentOut) {
+    Dane d;
+    d.karta({printing_tests::kowalski(), printing_tests::nowak()});
+    const auto sumy = d.payer() / "Sumy" / "Sa2101.sum";
+    auto r = cli(d, {"--yes", "print-list", "a", "--out", "brak/lista.txt"});
+    EXPECT_NE(r.status, 0);
+    EXPECT_FALSE(std::filesystem::exists(sumy));
+    ASSERT_EQ(cli(d, {"--yes", "print-list", "a", "--out", "lista.txt"}).status, 0);
+    EXPECT_TRUE(std::filesystem::exists(sumy));
+}

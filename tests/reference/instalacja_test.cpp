@@ -127,7 +127,11 @@ TEST(Instalacja, WhatCannotBeSavedIsSaidBeforeTheQuestion) {
          "zapisano."},
         {"cudzysłów w nazwie",
          [](InstalacjaScreen& f) { f.cmdDodajliste(); fill(f, "Lista \"B\"", "b", "a", "A"); f.cmdZapisz(); },
-         "[Błędne dane listy] Dane listy nie mogą zawierać cudzysłowu (\"). Zmian nie zapisano."},
+         "[Błędne dane] Pole \"Nazwa listy\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano."},
+        {"cudzysłów w zestawie",
+         [](InstalacjaScreen& f) { f.cmdDodajliste(); fill(f, "Lista", "b", "a", "\""); f.cmdZapisz(); },
+         "[Błędne dane] Pole \"Okreslenie zestawu przyporzadkowuje dana liste do  zbiorówek\" nie może zawierać "
+         "cudzysłowu (\"). Zmian nie zapisano."},
         {"zmiana bez wybranej listy", [](InstalacjaScreen& f) { f.cmdaktual(); },
          "[Zmiana listy] Najpierw wybierz z listy listę płac, którą chcesz zmienić."},
         {"usunięcie bez wybranej listy", [](InstalacjaScreen& f) { f.cmdUsu(); },

@@ -193,3 +193,36 @@ TEST(Obsluga, AdministratorLineOfTheYear) {
     EXPECT_EQ(D::readYear(d.dane(), "2020").s(D::Administrator1), "Jan Żółć");
     EXPECT_EQ(D::readYear(d.dane(), "2021").s(D::Administrator1), "Anna Kowalska");
 }
+
+TEST(Podatki, DoubleQuoteIsRefusedByTheWritersOfTheRates) {
+    struct {
+        const char* what;
+        std::function<void(Demo&)> run;
+        std::string box;
+    } cases[] = {
+        {"rates",
+         [](Demo& d) {
+             reference::PodatkiScreen f(d.ui, d.s);
+             f.Load();
+             f.txt(D::PodstawaDoKZP).Text = "P\"";
+             f.cmdZapisz();
+         },
+         "Podstawa do skladek KZP np: brutto lub zasadnicza, mbrutto (-chorobowe)   funkcyjny(zasadnicza +funkcyjny)"},
+        {"administrator",
+         [](Demo& d) {
+             reference::ObslugaScreen f(d.ui, d.s);
+             f.Load();
+             f.txtAdministrator2.Text = "Kierownik \"kadr\"";
+             f.cmdZapisz();
+         },
+         "Stanowisko"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        Demo d;
+        std::string before = readBytes(d.dane());
+        c.run(d);
+        EXPECT_EQ(d.ui.last(), "[Błędne dane] Pole \"" + c.box + "\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.");
+        EXPECT_EQ(readBytes(d.dane()), before);
+    }
+}

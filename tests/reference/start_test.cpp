@@ -166,6 +166,8 @@ TEST(ListDate, OnlyTheRangesOfDayAndMonthAreTested) {
         {"15-00-2009", false, ""},
         {"ab-01-2009", false, ""},
         {"15-01-20091", false, ""},
+        {"3--12-2009", true, "1209"},   // day and month by the value of their two characters
+        {"15-3--2009", true, "3-09"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.typed);
@@ -200,6 +202,22 @@ TEST(ListDate, DatePickedInTheCalendarIsTurnedRound) {
     EXPECT_DOUBLE_EQ(d.s.stawki.Stawka1, 18);
 }
 
+TEST(ListDate, EnterConfirmsTheTypedDateTheCalendarFollowed) {
+    Demo d;
+    reference::PlaceScreen place(d.ui, d.s);
+    place.Load();
+    place.txtDataListyS.Text = "15-03-2020";
+    place.fire(place.txtDataListyS, &core::Control::Change);
+    EXPECT_EQ(place.MonthView1.Text, "15-03-2020");
+    place.fire(place.txtDataListyS, &core::Control::KeyEnter);
+    EXPECT_EQ(d.s.DataListy, "15-03-2020");
+    EXPECT_EQ(core::Instalka::read(d.dir.path()).s(core::Instalka::DataListy), "15-03-2020");
+    // A text that is no real date leaves the calendar where it was.
+    place.txtDataListyS.Text = "31-02-2020";
+    place.fire(place.txtDataListyS, &core::Control::Change);
+    EXPECT_EQ(place.MonthView1.Text, "15-03-2020");
+}
+
 TEST(Password, ChangeWritesTheNewOneInClear) {
     Demo d;
     reference::PlaceScreen place(d.ui, d.s);
@@ -211,6 +229,13 @@ TEST(Password, ChangeWritesTheNewOneInClear) {
     EXPECT_EQ(d.s.HasloPodane, "Nowe1");
     // The other fields stay.
     EXPECT_EQ(core::Instalka::read(d.dir.path()).s(core::Instalka::DataListy), "31-01-2021");
+    // A double quote cannot stand in the file: refused, the file and the password as they were.
+    const std::string before = readBytes(d.instalka());
+    d.ui.type(std::string("Nowe1")).type(std::string("a\"b"));
+    place.Has_o();
+    EXPECT_EQ(d.ui.last(), "[Błędne dane] Pole \"Haslo\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.");
+    EXPECT_EQ(readBytes(d.instalka()), before);
+    EXPECT_EQ(d.s.Haslo, "Nowe1");
 }
 
 TEST(Password, ThreeTriesWithRetryAndOneWithoutIt) {

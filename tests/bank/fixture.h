@@ -1,0 +1,70 @@
+// The demo data on the list date 31-01-2021 with an open session, rates chosen for hand
+// calculation, and hand-made ledger and supplementary records.
+#pragma once
+#include "core/record.h"
+#include "paycalc/dodatkowe_record.h"
+#include "paycalc/karta_record.h"
+#include "reference/payers.h"
+#include "reference/rates.h"
+#include "support/scripted.h"
+#include "support/tempdir.h"
+
+namespace bank_tests {
+
+namespace K = paycalc::Karta;
+namespace D = paycalc::Dodatkowy;
+
+// Valid accounts (check digits worked out mod 97) of the banks 1020, 1060 and 8602.
+inline const char* const kPKO = "60102010260000123456789012";
+inline const char* const kBPH = "43106012345678901234567890";
+inline const char* const kBS = "20860200010000000000001234";
+
+inline core::Record karta(const std::string& nazwisko, double naRor, double zasilki, const std::string& konto) {
+    core::Record r(K::schema());
+    for (auto [n, t] : {std::pair{K::Poczatek, "<Poczatek>"}, {K::Imie, "JAN"}, {K::Kod, "32-400"},
+                        {K::Miejscowosc, "Myślenice"}, {K::Ulica, "Rynek"}, {K::NrDomu, "12"}, {K::Lokal, "3"},
+                        {K::Koniec, "<Koniec>"}})
+        r.set(n, t);
+    r.set(K::Nazwisko, nazwisko);
+    r.set(K::NumerKonta, konto);
+    r.set(K::NaROR, naRor);
+    r.set(K::ZasilkiDoROR, zasilki);
+    return r;
+}
+
+// A supplementary record at the tax rate 0.17 with the given amounts (field, value).
+inline core::Record dodatek(const std::string& nazwisko, std::vector<std::pair<int, double>> pola) {
+    core::Record r(D::schema());
+    r.set(D::Nazwisko, nazwisko);
+    r.set(D::Imie, "ANNA");
+    r.set(D::NumerKonta, kPKO);
+    r.set(D::StawkaPodatku, 0.17);
+    for (auto& [n, v] : pola) r.set(n, v);
+    return r;
+}
+
+struct Dane {
+    testing_support::TempDir dir;
+    core::Session s;
+    testing_support::ScriptedDialogs ui;
+    Dane() {
+        testing_support::copyTree(PENSJA_DEMO, dir.path());
+        s.WorkDir = dir.path();
+        s.takeInstalka(core::Instalka::read(dir.path()));
+        reference::selectPayer(s);
+        reference::loadRates(s);
+        s.NazwaListy = "Administracja                    ";
+        s.stawki.rentowaPracownik = 0.015;
+        s.stawki.emerytalna = 0.0488;
+        s.stawki.chorobowa = 0.0245;
+        s.stawki.zdrowotna = 0.09;
+        s.stawki.zdrowotnaInd = 0.0775;
+        s.stawki.KwotaGRE = 157770;
+    }
+    void ksieguj(const std::vector<core::Record>& recs) { core::writeAll(K::path(s, "a", s.RRmm()), recs); }
+    void dodatki(D::Rodzaj r, const std::vector<core::Record>& recs) {
+        D::writeAll(D::path(s, r, "a", s.RRmm()), r, recs);
+    }
+};
+
+}  // namespace bank_tests
