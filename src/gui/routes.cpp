@@ -1,12 +1,14 @@
 #include "gui/routes.h"
 
 #include "leave/screens.h"
+#include "documents/screens.h"
 #include "bank/screens.h"
 #include "paycalc/screens.h"
 #include "payinputs/screens.h"
 #include "personnel/screens.h"
 #include "printing/screens.h"
 #include "reference/screens.h"
+#include "yearledger/screens.h"
 #include "trips/screens.h"
 #include "tax/screens.h"
 #include "zus/screens.h"
@@ -20,6 +22,8 @@ void registerAllScreens(core::Screens& screens) {
     paycalc::registerScreens(screens);
     printing::registerScreens(screens);
     leave::registerScreens(screens);
+    yearledger::registerScreens(screens);
+    documents::registerScreens(screens);
     trips::registerScreens(screens);
     tax::registerScreens(screens);
     bank::registerScreens(screens);

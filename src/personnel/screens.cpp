@@ -1,5 +1,6 @@
 #include "personnel/screens.h"
 
+#include "personnel/kadry.h"
 #include "personnel/osoba1.h"
 #include "personnel/sortuj.h"
 #include "personnel/wybierz_osobe.h"
@@ -10,6 +11,8 @@ void registerScreens(core::Screens& screens) {
     screens.addForm<Osoba1Screen>("frmOsoba1");
     screens.addForm<SortujKadroweScreen>("frmSortujKadrowe");
     screens.addForm<WybierzOsobeScreen>("frmWybierzOsobę");
+    screens.addForm<KadryScreen>("frmKadryII");
+    screens.addForm<KadryScreen>("Kadry");
 }
 
 }  // namespace personnel

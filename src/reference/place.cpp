@@ -78,7 +78,7 @@ const MenuEntry kMenu[] = {
 // Entries whose screens this program does not have.
 const char* const kNotInThisVersion[] = {"mnuPZU",  "mnuKZPr",   "mnuZFM",     "mnuZwiazki", "mnuSolidarnosc",
                                          "mnuPodatki", "mnuPotraceniaInne", "ZbiorkaL", "Pit4Roczny",
-                                         "start",   "rp7",       "Kadry"};
+                                         "start",   "rp7"};
 
 bool notInThisVersion(const std::string& name) {
     for (const char* n : kNotInThisVersion)

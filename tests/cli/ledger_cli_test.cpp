@@ -52,7 +52,7 @@ TEST(LedgerCli, YearlyBase) {
     auto r = d.cli({"base", "a", "80120356757"});
     ASSERT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "11776.00\n");
-    EXPECT_EQ(d.cli({"base", "a", "80120356757", "2020"}).out, "0.00\n");
+    EXPECT_EQ(d.cli({"base", "a", "80120356757", "2019"}).out, "0.00\n");
     EXPECT_EQ(d.cli({"base", "a", "80120356757", "2021"}).out, "11776.00\n");
     EXPECT_EQ(d.cli({"base", "a"}).status, 2);
 }

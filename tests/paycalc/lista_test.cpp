@@ -325,7 +325,7 @@ TEST(Lista, YearlyBaseOnTheThirteenthTab) {
     e.zakladka(3);
     e.kliknij("cmdWyliczPodstawe");
     EXPECT_EQ(e.pole(3, Dodatkowy::Podstawa), "5888");
-    e.f.txtRokDoPodstawy.Text = "2020";
+    e.f.txtRokDoPodstawy.Text = "2019";
     e.kliknij("cmdWyliczPodstawe");
     EXPECT_EQ(e.pole(3, Dodatkowy::Podstawa), "0");
 }

@@ -313,7 +313,7 @@ TEST(MainMenuRouting, PayersAndListsOpenTheirScreens) {
     for (const char* name : {"mnuWybórList", "Drukarki", "Kopia", "calc", "mnuNotatnik", "Data", "Czas", "pomoc"})
         EXPECT_TRUE(place.find(name)->Enabled) << name;
     for (const char* name : {"mnuPZU", "mnuKZPr", "mnuZFM", "mnuZwiazki", "mnuSolidarnosc", "mnuPodatki",
-                             "mnuPotraceniaInne", "ZbiorkaL", "Pit4Roczny", "start", "rp7", "Kadry"}) {
+                             "mnuPotraceniaInne", "ZbiorkaL", "Pit4Roczny", "start", "rp7"}) {
         EXPECT_FALSE(place.find(name)->Enabled) << name;
         EXPECT_EQ(place.find(name)->ToolTipText, "Ta funkcja nie jest częścią tej wersji programu.") << name;
     }
