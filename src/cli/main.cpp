@@ -109,12 +109,13 @@ static void manual(std::ostream& out) {
     out << ".TH PENSJA\\-CLI 1 \"\" \"pensja\" \"Polecenia programu pensja\"\n"
            ".SH NAZWA\npensja\\-cli \\- polecenia wsadowe programu płacowo\\-kadrowego pensja\n"
            ".SH SKŁADNIA\n.B pensja\\-cli\n"
-        << roff("[--data FOLDER] [--payer SKRÓT] [--date dd-mm-rrrr] [--yes|--no] POLECENIE [ARGUMENTY]") << "\n"
+        << roff("[--data FOLDER] [--payer SKRÓT] [--date dd-mm-rrrr] [--yes|--no] [--wait] POLECENIE [ARGUMENTY]") << "\n"
         << ".SH OPIS\n"
         << roff("Wykonuje polecenia programu pensja bez okien, na tych samych plikach danych. "
                 "Bez --data folder danych ustala się jak przy starcie programu (instalka.dat w folderze roboczym); "
                 "--payer i --date zmieniają sesję tylko na to wywołanie. Każde okno komunikatu trafia na "
-                "standardowe wyjście błędów jako [tytuł] tekst; na pytania odpowiada --yes lub --no.")
+                "standardowe wyjście błędów jako [tytuł] tekst; na pytania odpowiada --yes lub --no. Polecenie, "
+                "które zmienia pliki, kończy się kodem 1, gdy dane zmienia inny program; z --wait czeka.")
         << "\n.SH POLECENIA\n";
     for (auto& [name, c] : cli::commands()) out << ".TP\n.B " << roff(c.usage) << "\n" << roff(c.summary) << "\n";
     out << ".SH KOD WYJŚCIA\n0 sukces, 1 polecenie zakończone komunikatem o błędzie, 2 złe argumenty.\n"
