@@ -25,7 +25,7 @@ float Round2(double x) {
     return CSng(r, "Round2");
 }
 
-float Round2(float& x) {
+float Round2InPlace(float& x) {
     x = Round2(static_cast<double>(x));
     return x;
 }
@@ -35,7 +35,7 @@ float RoundZl(double x) {
     return CSng(x - f >= 0.5 ? f + 1 : f, "RoundZl");
 }
 
-float RoundZl(float& x) {
+float RoundZlInPlace(float& x) {
     x = RoundZl(static_cast<double>(x));
     return x;
 }

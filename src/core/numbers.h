@@ -13,13 +13,18 @@ double Fix(double x);
 // as the classic run-time raises it; `step` names the store in the error.
 float CSng(double x, const std::string& step = "CSng");
 
-// Two decimals, ties to even, narrowed to a 32-bit float (Error 6 beyond its range). The argument takes the result.
+// Two decimals, ties to even, narrowed to a 32-bit float (Error 6 beyond its range).
 float Round2(double x);
-float Round2(float& x);
 // Whole złoty: a fraction of 0.5 or more goes up, below stays; a negative amount is truncated
-// towards zero. The argument takes the result.
+// towards zero.
 float RoundZl(double x);
-float RoundZl(float& x);
+// The same roundings of a float variable where it stands: the variable takes the result, which
+// is also returned. A float variable handed to Round2 or RoundZl does not compile, so that a
+// rounding in place is always written as one.
+float Round2InPlace(float& x);
+float RoundZlInPlace(float& x);
+float Round2(float& x) = delete;
+float RoundZl(float& x) = delete;
 // Contributions: a third decimal that is exactly 5 goes up, the digits past it are dropped
 // first; then two decimals.
 double RoundSkl(double x);

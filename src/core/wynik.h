@@ -17,7 +17,10 @@ struct LiniaChorobowa {
     Item SredniaCH, Liczbadni, okresOd, okresDo, KodPrzerwy, ChPr;
 };
 
-struct WynikMiesiaca {
+// The two tables of the block, the amounts of the month (a few are days or a rate): the one list
+// of names that the report of the calculation, the ledger record and the tests go through
+// (paycalc/pola_wyniku.h) holds every one of them.
+struct TabeleWyniku {
     // --- The elements and gross pay -------------------------------------------------------
     float wZasadnicza = 0;
     float wFunkcyjny = 0;
@@ -84,7 +87,9 @@ struct WynikMiesiaca {
     float wSkladkiOdZasilkow = 0;
     float wPodstawaFP = 0;
     float wPodstawaFGSP = 0;
+};
 
+struct WynikMiesiaca : TabeleWyniku {
     // --- Copies of the pay record for the printouts and the ledger -----------------------
     std::array<LiniaChorobowa, 4> wLinie{};  // wSredniaCH1 .. wCh4Pr
     Item wBZP3dni, wBZP1dni, wBZP2dni;

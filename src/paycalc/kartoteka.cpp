@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
+#include "paycalc/pola_wyniku.h"
 #include "payinputs/pay_record.h"
 #include "personnel/person_record.h"
 #include "reference/rates.h"
@@ -53,43 +54,17 @@ Record rekordKarty(const core::Session& s, const Record& o) {
     k.set(Klucz, s.KluczOsoby);
     k.set(KodUbezpieczenia, core::RTrim(s.KodUbezpieczeniaOsoby));
 
-    // The elements of the month.
-    k.set(Zasadnicza, w.wZasadnicza);
-    k.set(Funkcyjny, w.wFunkcyjny);
-    k.set(Stazowy, w.wStazowy);
-    k.set(Premia, w.wPremia);
-    k.set(Specjalny, w.wSpecjalny);
-    k.set(Inny, w.wInny);
-    k.set(Motywacyjny, w.wMotywacyjny);
-    k.set(Wiejski, w.wWiejski);
-    k.set(Specjalistyczny, w.wSpecjalistyczny);
-    k.set(Wychowawczy, w.wWychowawczy);
-    k.set(Trudnosciowy, w.wTrudnosciowy);
-    k.set(Ekwiwalent, w.wEkwiwalent);
-    k.set(Nocny, w.wNocny);
-    k.set(Wyrownania, w.wWyrownania);
-    k.set(Szkodliwy, w.wSzkodliwy);
-    k.set(StawkaZastosowana, w.wStawkaPodatku);
-    k.set(NaROR, w.wNaROR);
-    k.set(KosztyUzyskania, w.wKoszty);
+    // The amounts of the result block that the ledger keeps.
+    for (const PoleWyniku& p : kPolaWyniku)
+        if (p.karta != 0) k.set(p.karta, w.*p.pole);
+
+    // Relief, tax rate and account of the pay record.
     k.set(KwotaUlgi, P.f(Pay::KwotaUlgi));
-    k.set(Mieszkaniowy, w.wMieszkaniowy);
     k.set(UlgaInwestycyjna, P.f(Pay::UlgaInwestycyjna));
     k.set(StawkaPodatku, P.f(Pay::ZastosStaPOD));
     k.set(NumerKonta, P.s(Pay::NumerKontaROR));
 
-    // Deductions.
-    k.set(ZFMRata, w.wRataZFM);
-    k.set(KZPRata, w.wRataKZP);
-    k.set(KZPSkladka, w.wSkladkaKZP);
-    k.set(ZasilkiDoROR, w.wZasilkiNaROR);
-    k.set(PotraceniaInne, w.wPotraceniaInne);
-    k.set(ZwiazekZawodowy, w.wZwiazek);
-    k.set(Solidarnosc, w.wSolidarnosc);
-    k.set(PZU, w.wPZU);
-    k.set(Potracenie2, w.wPotracenie2);
-    k.set(Potracenie3, w.wPotraceniaPoZasilkach);
-    k.set(Potracenie1, w.wPotracenie1);
+    // Identity.
     k.set(Dokument, P.s(Pay::Dokument));
     k.set(Obywatelstwo, personnel::obywatelstwo(o.s(Osoba::Obywatelstwo)));
 
@@ -107,12 +82,6 @@ Record rekordKarty(const core::Session& s, const Record& o) {
         przepisz(k, KwotaLinii1 + n, P.item(Pay::KwotaCh1 + n));
     }
     k.set(Grupa, o.s(Osoba::Grupa));
-    k.set(Podatek, w.wPodatekNaliczony);
-
-    // Contributions.
-    k.set(SkladkaWypadkowa, w.wWypadkowa);
-    k.set(SkladkaRentowa, w.wRentowa);
-    k.set(SkladkaEmerytalna, w.wEmerytalna);
 
     // Leave, address, birth.
     k.set(DniUrlopu, static_cast<long>(w.DniUrlopu));
@@ -126,26 +95,15 @@ Record rekordKarty(const core::Session& s, const Record& o) {
     k.set(StawkaZdrowotna30, static_cast<float>(st.stZDI));
     przepisz(k, SredniaChorobowa, w.wSredniaChorobowa);
 
-    // Tax, gross and the bases.
-    k.set(SkladkaChorobowa, w.wChorobowa);
-    k.set(SkladkaZdrowotnaPozostala, w.wZdrowotnaIndywidualna);
+    // The list date and the rates.
     k.set(DataListy, s.DataListy);
-    k.set(PodatekNetto, w.wZaliczka);
-    k.set(Brutto, w.wBrutto);
-    k.set(PodstawaPodatku, w.wPodstawaPodatku);
-    k.set(PodstawaZdrowotna, w.wPodstawaZdrowotnej);
     k.set(StawkaZdrowotna15, static_cast<float>(st.Kasach));
-    k.set(PodstawaZUS, w.wPodstawaZUS);
     k.set(StopaEmerytalna, st.emerytalna);
     k.set(StopaRentowa, st.rentowaPracownik);
     k.set(StopaChorobowa, st.chorobowa);
     k.set(StopaWypadkowa, st.wypadkowa);
-    k.set(SkladkaZdrowotnaOdliczana, w.wZdrowotnaOdliczana);
     k.set(Etat, o.s(Osoba::Etat));
-    k.set(ChoroboweZUS, w.wZasilki);
-    k.set(DoWyplaty, w.wDoWyplaty);
     k.set(NaLiscie, o.i(Osoba::Status));
-    k.set(ChorobowePracodawca, w.wChorobowePlatne);
 
     // The switches of the pay record.
     k.set(CheckEmerytalna, P.i(Pay::Emerytalna));
@@ -154,26 +112,16 @@ Record rekordKarty(const core::Session& s, const Record& o) {
     k.set(CheckWypadkowa, P.i(Pay::Wypadkowa));
     k.set(CheckZdrowotna, P.i(Pay::Zdrowotna));
 
-    // Funds, identity, the employer's rent.
+    // Funds, identity, the employer's rent rate.
     k.set(WskaznikFP, o.s(Osoba::WskaznikFP));
-    k.set(PodstawaFP, w.wPodstawaFP);
     k.set(FGSP, o.s(Osoba::FGSP));
-    k.set(PodstawaFGSP, w.wPodstawaFGSP);
     k.set(DowodOsobisty, o.s(Osoba::DowodOsobisty));
     k.set(UrzadSkarbowy, o.s(Osoba::UrzadSkarbowy));
     k.set(StopaRentowaPracodawcy, st.rentowaPracodawca);
-    k.set(SkladkaRentowaPracodawcy, w.wRentowaPracodawcy);
 
-    // The two sick sums of the calculation before their rounding, the payment and the relief.
+    // The two sick sums of the calculation before their rounding.
     k.set(DniChorobyZakladu, static_cast<float>(w.sumaChorobowePlatne));
     k.set(DniChorobyZUS, static_cast<float>(w.sumaZasilki));
-    k.set(Niedobor, w.wNiedobor);
-    k.set(ZasilkiDoKasy, w.wZasilkiDoKasy);
-    k.set(PodatekOdZasilkow, w.wPodatekZasilki);
-    k.set(UlgaNiewykorzystana, w.wUlgaNiewykorzystana);
-    k.set(UlgaZastosowana, w.wUlgaZastosowana);
-    k.set(Urlopowe, w.wUrlopowe);
-    k.set(ChoroboweWypadkowe, w.wZasilki311);
     k.set(Koniec, "<Koniec>");
     return k;
 }

@@ -39,11 +39,11 @@ TEST(Roundings, Table) {
 
 TEST(Roundings, ArgumentTakesTheResult) {
     float x = 0.125f;
-    float r = Round2(x);
+    float r = Round2InPlace(x);
     EXPECT_FLOAT_EQ(x, 0.12f);
     EXPECT_FLOAT_EQ(r, 0.12f);
     float z = 10.5f;
-    RoundZl(z);
+    RoundZlInPlace(z);
     EXPECT_FLOAT_EQ(z, 11.0f);
     // An expression is not changed, only rounded.
     double d = 0.125;
