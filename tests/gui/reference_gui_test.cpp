@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QFileSystemModel>
+#include <QTreeView>
 
 #include "core/text.h"
 #include "gui/mainwindow.h"
@@ -45,7 +47,7 @@ TEST(MainWindowGui, MenuEntriesFollowTheScreensThatExist) {
     core::Screens screens;
     gui::registerAllScreens(screens);
     ui.screens = &screens;
-    reference::PlaceScreen place(ui, demo.session);
+    app::PlaceScreen place(ui, demo.session);
     gui::MainWindow win(place);
     win.view()->runWork([&] { place.Load(); });
     win.view()->runWork([&] { place.Activate(); });
@@ -64,4 +66,14 @@ TEST(MainWindowGui, MenuEntriesFollowTheScreensThatExist) {
     EXPECT_EQ(win.findChild<QLineEdit*>("txtDataListyS")->text(), "31-01-2021");
     win.resize(760, 520);
     gui_support::grab(&win, "frmPlace");
+    // The folder tree, hidden at the start, has read nothing; shown, it holds the data folder.
+    auto* drzewo = win.findChild<QTreeView*>("dirFolder");
+    ASSERT_NE(drzewo, nullptr);
+    auto* model = static_cast<QFileSystemModel*>(drzewo->model());
+    EXPECT_TRUE(model->rootPath().isEmpty() || model->rootPath() == ".") << model->rootPath().toStdString();
+    win.view()->runWork([&] { place.Sciezka(); });
+    EXPECT_TRUE(drzewo->isVisibleTo(&win));
+    EXPECT_EQ(model->rootPath().toStdString(), QDir::cleanPath(QString::fromStdString(place.dirFolder.Text)).toStdString());
+    EXPECT_EQ(model->filePath(drzewo->rootIndex()), model->rootPath());
+    gui_support::grab(&win, "frmPlace-folder");
 }
