@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QFileSystemModel>
 #include <QTreeView>
+#include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include "core/text.h"
 #include "gui/mainwindow.h"
@@ -75,5 +77,13 @@ TEST(MainWindowGui, MenuEntriesFollowTheScreensThatExist) {
     EXPECT_TRUE(drzewo->isVisibleTo(&win));
     EXPECT_EQ(model->rootPath().toStdString(), QDir::cleanPath(QString::fromStdString(place.dirFolder.Text)).toStdString());
     EXPECT_EQ(model->filePath(drzewo->rootIndex()), model->rootPath());
+    // The subfolders come in from the model's reader: the payer's folder among them.
+    QElapsedTimer czas;
+    czas.start();
+    while (model->rowCount(drzewo->rootIndex()) == 0 && czas.elapsed() < 5000) QCoreApplication::processEvents();
+    QStringList podfoldery;
+    for (int i = 0; i < model->rowCount(drzewo->rootIndex()); ++i)
+        podfoldery << model->fileName(model->index(i, 0, drzewo->rootIndex()));
+    EXPECT_TRUE(podfoldery.contains("DEMO")) << podfoldery.join(",").toStdString();
     gui_support::grab(&win, "frmPlace-folder");
 }
