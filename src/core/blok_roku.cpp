@@ -42,6 +42,11 @@ std::vector<BlokRoku> czytajBloki(SeqReader& in, const UkladBloku& u) {
     return out;
 }
 
+std::vector<BlokRoku> czytajBloki(const std::filesystem::path& file, const UkladBloku& u) {
+    SeqReader in(file);
+    return czytajBloki(in, u);
+}
+
 void piszBlok(SeqWriter& w, const BlokRoku& b) {
     writeRecord(w, b.naglowek);
     for (int m = 0; m < 12; ++m) {

@@ -33,6 +33,7 @@ BlokRoku czytajBlok(SeqReader& in, const UkladBloku& u);
 BlokRoku czytajBlok(SeqReader& in, const UkladBloku& u, int miesiac, bool& urwany);
 // Every block of the file, in file order. Error 53 when the file is missing.
 std::vector<BlokRoku> czytajBloki(SeqReader& in, const UkladBloku& u);
+std::vector<BlokRoku> czytajBloki(const std::filesystem::path& file, const UkladBloku& u);
 void piszBlok(SeqWriter& w, const BlokRoku& b);
 // Rewrites the file with the blocks, through `tempName` in its folder.
 void piszBloki(const std::filesystem::path& file, const std::vector<BlokRoku>& blocks, const std::string& tempName);

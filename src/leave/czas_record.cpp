@@ -54,16 +54,13 @@ std::string nazwaTymczasowa(const core::Session& s, const std::string& rok, bool
 }
 
 const core::UkladBloku& uklad() {
-    static const core::UkladBloku u{Naglowek::schema(), Miesiac::schema(), Dzien::schema()};
-    return u;
+    static const core::UkladBloku kUklad{Naglowek::schema(), Miesiac::schema(), Dzien::schema()};
+    return kUklad;
 }
 
 std::vector<Blok> readAll(core::SeqReader& in) { return core::czytajBloki(in, uklad()); }
 
-std::vector<Blok> readAll(const fs::path& file) {
-    core::SeqReader in(file);
-    return readAll(in);
-}
+std::vector<Blok> readAll(const fs::path& file) { return core::czytajBloki(file, uklad()); }
 
 void writeAll(const fs::path& file, const std::vector<Blok>& blocks, const std::string& tempName) {
     core::piszBloki(file, blocks, tempName);

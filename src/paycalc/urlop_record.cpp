@@ -38,8 +38,8 @@ fs::path path(const core::Session& s, const std::string& rok) {
 }
 
 const core::UkladBloku& uklad() {
-    static const core::UkladBloku u{Naglowek::schema(), Miesiac::schema(), Dzien::schema()};
-    return u;
+    static const core::UkladBloku kUklad{Naglowek::schema(), Miesiac::schema(), Dzien::schema()};
+    return kUklad;
 }
 
 Blok readBlok(core::SeqReader& in) { return core::czytajBlok(in, uklad()); }
@@ -48,10 +48,7 @@ Blok readBlok(core::SeqReader& in, int miesiac, bool& urwany) { return core::czy
 
 std::vector<Blok> readAll(core::SeqReader& in) { return core::czytajBloki(in, uklad()); }
 
-std::vector<Blok> readAll(const fs::path& file) {
-    core::SeqReader in(file);
-    return readAll(in);
-}
+std::vector<Blok> readAll(const fs::path& file) { return core::czytajBloki(file, uklad()); }
 
 void writeAll(const fs::path& file, const std::vector<Blok>& blocks, const std::string& tempName) {
     core::piszBloki(file, blocks, tempName);
