@@ -32,19 +32,19 @@ DoBankuScreen::DoBankuScreen(core::Dialogs& ui, core::Session& session)
     txtNrDodatku.at(1, 1).label("Wpisz nr dodatku od 1-7").width(3);
     txtkwotaRazem.at(1, 2).label("Razem").width(12);
     txtkwotaRazem.Locked = true;
-    CmdUtworzRor_.at(2, 0);
-    cmdPrzegladaj_.at(2, 1);
-    cmdSort_.at(2, 2);
-    cmdZapiszPosortowany_.at(2, 3);
-    CmdUsunRekord_.at(3, 0);
+    CmdUtworzRor.at(2, 0);
+    cmdPrzegladaj.at(2, 1);
+    cmdSort.at(2, 2);
+    cmdZapiszPosortowany.at(2, 3);
+    CmdUsunRekord.at(3, 0);
     Text1.at(3, 1).label("Szukane nazwisko").width(16).tip("Nazwisko lub jego część do odszukania w tabeli");
-    cmdFindTxt_.at(3, 2);
+    cmdFindTxt.at(3, 2);
     cmdKoniec.at(3, 3);
     MSFlexGrid1.at(4, 0, 4).width(120);
     ProgressBar1.at(5, 0, 4);
-    cmdDrukujROR_.at(6, 0);
-    CmdNaDyskietke_.at(6, 1).tip("Zestawienie kont i kwot dla banku, zapisane w wybranym folderze");
-    cmdDohomenet_.at(6, 2).tip("Wykonujezbiór w formacie Elixir w  np. c:\\Tesmar\\skrót\\HOMENET");
+    cmdDrukujROR.at(6, 0);
+    CmdNaDyskietke.at(6, 1).tip("Zestawienie kont i kwot dla banku, zapisane w wybranym folderze");
+    cmdDohomenet.at(6, 2).tip("Wykonujezbiór w formacie Elixir w  np. c:\\Tesmar\\skrót\\HOMENET");
 
     for (const char* r : kRodzajeList) CmbWybierzListe.AddItem(r);
     CmbWybierzListe.ListIndex = 0;
@@ -65,16 +65,16 @@ DoBankuScreen::DoBankuScreen(core::Dialogs& ui, core::Session& session)
         CmbWybierzListe.Text = CmbWybierzListe.selectedText();
         txtNrDodatku.Visible = core::RTrim(CmbWybierzListe.Text) == "Dodatkowe";
     };
-    CmdUtworzRor_.Click = [this] { CmdUtworzRor(); };
-    cmdPrzegladaj_.Click = [this] { cmdPrzegladaj(); };
+    CmdUtworzRor.Click = [this] { CmdUtworzRor_Click(); };
+    cmdPrzegladaj.Click = [this] { cmdPrzegladaj_Click(); };
     MSFlexGrid1.Click = [this] { MSFlexGrid1_Click(); };
-    CmdUsunRekord_.Click = [this] { CmdUsunRekord(); };
-    cmdSort_.Click = [this] { cmdSort(); };
-    cmdFindTxt_.Click = [this] { cmdFindTxt(); };
-    cmdZapiszPosortowany_.Click = [this] { cmdZapiszPosortowany(); };
-    cmdDrukujROR_.Click = [this] { cmdDrukujROR(); };
-    CmdNaDyskietke_.Click = [this] { CmdNaDyskietke(); };
-    cmdDohomenet_.Click = [this] { cmdDohomenet(); };
+    CmdUsunRekord.Click = [this] { CmdUsunRekord_Click(); };
+    cmdSort.Click = [this] { cmdSort_Click(); };
+    cmdFindTxt.Click = [this] { cmdFindTxt_Click(); };
+    cmdZapiszPosortowany.Click = [this] { cmdZapiszPosortowany_Click(); };
+    cmdDrukujROR.Click = [this] { cmdDrukujROR_Click(); };
+    CmdNaDyskietke.Click = [this] { CmdNaDyskietke_Click(); };
+    cmdDohomenet.Click = [this] { cmdDohomenet_Click(); };
     cmdKoniec.Click = [this] { Unload(); };
 }
 
@@ -107,7 +107,7 @@ std::vector<core::Record> DoBankuScreen::rekordy() const {
     return out;
 }
 
-void DoBankuScreen::CmdUtworzRor() {
+void DoBankuScreen::CmdUtworzRor_Click() {
     guarded([&] {
         paycalc::Postep postep;
         postep.krok = [this](int min, int max, int value) {
@@ -118,12 +118,12 @@ void DoBankuScreen::CmdUtworzRor() {
         };
         txtZestawZ.Text = core::UCase(txtZestawZ.Text);
         Zlecenie z{txtZestawZ.Text, txtNrUnikatowy.Text, CmbWybierzListe.Text, txtNrDodatku.Text};
-        auto recs = utworzRor(s, ui, z, podstawa_, postep);
+        auto recs = utworzRor(s, ui, z, podstawa, postep);
         if (recs) pokaz(*recs);
     });
 }
 
-void DoBankuScreen::cmdPrzegladaj() {
+void DoBankuScreen::cmdPrzegladaj_Click() {
     guarded([&] {
         auto recs = wczytajRor(s, ui, txtZestawZ.Text, CmbWybierzListe.Text);
         if (recs) pokaz(*recs);
@@ -150,7 +150,7 @@ void DoBankuScreen::MSFlexGrid1_Click() {
     pokazRazem();
 }
 
-void DoBankuScreen::CmdUsunRekord() {
+void DoBankuScreen::CmdUsunRekord_Click() {
     if (MSFlexGrid1.Rows <= 2) {
         core::MsgBox(ui, "Nie ma co usuwać");
         return;
@@ -167,7 +167,7 @@ void DoBankuScreen::CmdUsunRekord() {
     pokazRazem();
 }
 
-void DoBankuScreen::cmdSort() {
+void DoBankuScreen::cmdSort_Click() {
     auto& cells = MSFlexGrid1.Cells;
     if (cells.size() < 2) return;
     std::stable_sort(cells.begin() + 1, cells.end(), [](const auto& a, const auto& b) {
@@ -177,7 +177,7 @@ void DoBankuScreen::cmdSort() {
     MSFlexGrid1.Row = 0;
 }
 
-void DoBankuScreen::cmdFindTxt() {
+void DoBankuScreen::cmdFindTxt_Click() {
     Text1.Text = core::UCase(Text1.Text);
     for (int r = 1; r < MSFlexGrid1.Rows; ++r)
         if (core::InStr(core::UCase(MSFlexGrid1.TextMatrix(r, kKolNazwisko)), Text1.Text) > 0) {
@@ -189,7 +189,7 @@ void DoBankuScreen::cmdFindTxt() {
     ui.msgBox("Nie znaleziono nazwiska zawierającego \"" + Text1.Text + "\".", Buttons::OK, Icon::Information, "Szukaj");
 }
 
-void DoBankuScreen::cmdZapiszPosortowany() {
+void DoBankuScreen::cmdZapiszPosortowany_Click() {
     if (MSFlexGrid1.Rows <= 1) {
         ui.msgBox("Tabela jest pusta: najpierw utwórz zbiór albo go przeglądaj.", Buttons::OK, Icon::Information,
                   " Zapis posortowanego zbioru na dysk");
@@ -210,15 +210,15 @@ void DoBankuScreen::cmdZapiszPosortowany() {
     });
 }
 
-void DoBankuScreen::cmdDrukujROR() {
+void DoBankuScreen::cmdDrukujROR_Click() {
     guarded([&] { bank::cmdDrukujROR(s, ui, txtZestawZ.Text, CmbWybierzListe.Text); });
 }
 
-void DoBankuScreen::CmdNaDyskietke() {
+void DoBankuScreen::CmdNaDyskietke_Click() {
     guarded([&] { bank::CmdNaDyskietke(s, ui, txtZestawZ.Text, txtNrUnikatowy.Text, CmbWybierzListe.Text); });
 }
 
-void DoBankuScreen::cmdDohomenet() {
+void DoBankuScreen::cmdDohomenet_Click() {
     guarded([&] { bank::cmdDohomenet(s, ui, txtZestawZ.Text, txtNrUnikatowy.Text, CmbWybierzListe.Text); });
 }
 

@@ -14,17 +14,17 @@ public:
     DoBankuScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
 
-    void CmdUtworzRor();
-    void cmdPrzegladaj();
+    void CmdUtworzRor_Click();
+    void cmdPrzegladaj_Click();
     // A click on a cell: the row is marked; a cell of the amount asks for a new amount.
     void MSFlexGrid1_Click();
-    void CmdUsunRekord();
-    void cmdSort();
-    void cmdFindTxt();
-    void cmdZapiszPosortowany();
-    void cmdDrukujROR();
-    void CmdNaDyskietke();
-    void cmdDohomenet();
+    void CmdUsunRekord_Click();
+    void cmdSort_Click();
+    void cmdFindTxt_Click();
+    void cmdZapiszPosortowany_Click();
+    void cmdDrukujROR_Click();
+    void CmdNaDyskietke_Click();
+    void cmdDohomenet_Click();
 
     // Columns of the grid: fields 1 to 8 of the batch.
     static constexpr int kKolNazwisko = 1;
@@ -43,16 +43,16 @@ public:
     core::Control CmbWybierzListe{this, "CmbWybierzListe", core::Kind::ComboBox};
     core::Control txtNrDodatku{this, "txtNrDodatku", core::Kind::TextBox};
     core::Control txtkwotaRazem{this, "txtkwotaRazem", core::Kind::TextBox};
-    core::Control CmdUtworzRor_{this, "CmdUtworzRor", core::Kind::CommandButton, "&Utwórz zbiór  Ror z list i dodatków"};
-    core::Control cmdPrzegladaj_{this, "cmdPrzegladaj", core::Kind::CommandButton, "&Przeglądaj zbiór"};
-    core::Control cmdSort_{this, "cmdSort", core::Kind::CommandButton, "&Sortuj"};
-    core::Control cmdZapiszPosortowany_{this, "cmdZapiszPosortowany", core::Kind::CommandButton, "&Zapisz posortowany"};
-    core::Control CmdUsunRekord_{this, "CmdUsunRekord", core::Kind::CommandButton, "Usuń &rekord"};
+    core::Control CmdUtworzRor{this, "CmdUtworzRor", core::Kind::CommandButton, "&Utwórz zbiór  Ror z list i dodatków"};
+    core::Control cmdPrzegladaj{this, "cmdPrzegladaj", core::Kind::CommandButton, "&Przeglądaj zbiór"};
+    core::Control cmdSort{this, "cmdSort", core::Kind::CommandButton, "&Sortuj"};
+    core::Control cmdZapiszPosortowany{this, "cmdZapiszPosortowany", core::Kind::CommandButton, "&Zapisz posortowany"};
+    core::Control CmdUsunRekord{this, "CmdUsunRekord", core::Kind::CommandButton, "Usuń &rekord"};
     core::Control Text1{this, "Text1", core::Kind::TextBox};
-    core::Control cmdFindTxt_{this, "cmdFindTxt", core::Kind::CommandButton, "&Szukaj"};
-    core::Control cmdDrukujROR_{this, "cmdDrukujROR", core::Kind::CommandButton, "&Drukuj"};
-    core::Control CmdNaDyskietke_{this, "CmdNaDyskietke", core::Kind::CommandButton, "&NaDyskietkę"};
-    core::Control cmdDohomenet_{this, "cmdDohomenet", core::Kind::CommandButton, "Do &Home Net"};
+    core::Control cmdFindTxt{this, "cmdFindTxt", core::Kind::CommandButton, "&Szukaj"};
+    core::Control cmdDrukujROR{this, "cmdDrukujROR", core::Kind::CommandButton, "&Drukuj"};
+    core::Control CmdNaDyskietke{this, "CmdNaDyskietke", core::Kind::CommandButton, "&NaDyskietkę"};
+    core::Control cmdDohomenet{this, "cmdDohomenet", core::Kind::CommandButton, "Do &Home Net"};
     core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
     core::Control MSFlexGrid1{this, "MSFlexGrid1", core::Kind::Grid};
     core::Control ProgressBar1{this, "ProgressBar1", core::Kind::ProgressBar};
@@ -60,7 +60,7 @@ public:
 private:
     void pokaz(const std::vector<core::Record>& recs);
     void pokazRazem();
-    float podstawa_ = 0;  // the base of the supplementary records, kept from one record to the next
+    float podstawa = 0;  // the base of the supplementary records, kept from one record to the next
 };
 
 }  // namespace bank

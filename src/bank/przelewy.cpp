@@ -26,7 +26,6 @@ const char* const kBrakZbioru = "Brak wykonanego zbioru ROR za okres ";
 
 namespace {
 
-constexpr std::size_t kMaksList = 70;
 const char* const kPytanieRezygnacja = " Jezeli nie to rezygnacja";
 
 struct Bank {
@@ -156,10 +155,6 @@ std::string opisBanku(const std::string& nrUnikatowy) {
     return {};
 }
 
-bool wZestawie(const std::string& zestawListy, const std::string& zestaw) {
-    return core::InStr(zestaw, zestawListy) > 0;
-}
-
 bool kontoBanku(const std::string& konto, const std::string& nrUnikatowy) {
     const std::size_t n = core::Len(nrUnikatowy);
     return core::Mid(konto, 3, n) == nrUnikatowy || core::Left(konto, n) == nrUnikatowy;
@@ -206,9 +201,8 @@ std::optional<std::vector<core::Record>> utworzRor(core::Session& s, core::Dialo
         return std::nullopt;
     }
     std::vector<std::string> listy;
-    for (const core::Record& l : reference::Instal::read(s))
-        if (listy.size() < kMaksList && wZestawie(l.s(reference::Instal::ZestawListy), zestaw))
-            listy.push_back(reference::Instal::stem(l));
+    for (const core::Record& l : reference::Instal::listyZestawu(reference::Instal::read(s), zestaw))
+        listy.push_back(reference::Instal::stem(l));
     const Rodzaj rodzaj = rodzajListy(z.rodzaj);
     if (!listy.empty() && rodzaj.zrodlo == Zrodlo::Brak) {
         ui.msgBox("Nie przewidzialem tego ruchu ", Buttons::OK, Icon::None, "Zle wybrany typ listy ! ");

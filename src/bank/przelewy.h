@@ -26,9 +26,6 @@ extern const char* const kBrakZbioru;        // "Brak wykonanego zbioru ROR za o
 
 // Label5: the bank named by the first four characters of the number, or "" for another bank.
 std::string opisBanku(const std::string& nrUnikatowy);
-// Whether a list of the catalogue with the set letter `zestawListy` takes part in the set
-// `zestaw` (an empty letter is found in any set).
-bool wZestawie(const std::string& zestawListy, const std::string& zestaw);
 // The bank filter: the number stands in the account from its third character or from its first.
 bool kontoBanku(const std::string& konto, const std::string& nrUnikatowy);
 // An account of 26 digits whose check digits agree (mod 97 of the number with "PL" moved behind).

@@ -45,7 +45,7 @@ void argumenty(cli::Context& c, std::size_t ile, const std::string& uzycie) {
 // The title of the first list of the set heads the printed list, as when that list is open.
 void listaZestawu(core::Session& s, const std::string& zestaw) {
     for (const core::Record& l : reference::Instal::read(s))
-        if (bank::wZestawie(l.s(reference::Instal::ZestawListy), core::UCase(zestaw))) {
+        if (reference::Instal::wZestawie(l, zestaw)) {
             s.NazwaListy = l.s(reference::Instal::NazwaListy);
             return;
         }

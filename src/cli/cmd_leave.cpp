@@ -45,14 +45,14 @@ int average(cli::Context& c) {
     core::Control cel(nullptr, "txtSredniaChorobowa", core::Kind::TextBox);
     leave::SredniaScreen f(c.dialogs, c.session, &cel);
     c.dialogs.showForm(f);
-    f.cmdWylicz();
-    f.cmdPobierzIloscdni();
+    f.cmdWylicz_Click();
+    f.cmdPobierzIloscdni_Click();
     siatka(f.MSFlexGrid7);
     std::cout << "RazemPlaca=" << f.txtRazeMPlaca.Text << "\nRazemGodziny=" << f.txtRazemGodziny.Text
               << "\nRazemDodatki=" << f.txtRazemDodatki.Text << "\nTrzynastka=" << f.txtTrzynastka.Text
               << "\nIloscMiesiecy=" << f.LbiloscMiesiecy.Caption << "\nOgolem=" << f.txtOgolem.Text
               << "\nKwotaNetto=" << f.txtKwotaNetto.Text << "\nSredniaDzienna=" << f.txtSredniadzienna.Text << "\n";
-    f.CmdWyliczSrednia();
+    f.CmdWyliczSrednia_Click();
     std::cout << "OgolemZDwunastaTrzynastki=" << f.txtOgolem.Text << "\nKwotaNettoZDwunastaTrzynastki="
               << f.txtKwotaNetto.Text << "\nSredniaDziennaZDwunastaTrzynastki=" << f.txtSredniadzienna.Text << "\n";
     return 0;
@@ -63,7 +63,7 @@ int sickHistory(cli::Context& c) {
     if (c.args.size() != 2) throw cli::Usage("sick-history wymaga nazwy listy i identyfikatora osoby");
     // The history alone: the screen is not opened, so the pay file is not rewritten.
     leave::ChoroboweScreen f(c.dialogs, c.session);
-    f.cmdHistoriachorobowego();
+    f.cmdHistoriachorobowego_Click();
     siatka(f.MSFlexGrid9);
     std::cout << "LacznaIloscDni=" << f.lbLacznaIloscDni.Caption << "\n";
     return 0;
@@ -76,7 +76,7 @@ int leaveYear(cli::Context& c) {
     leave::UrlopyScreen f(c.dialogs, c.session);
     c.dialogs.showForm(f);
     if (!c.outFile.empty() || !c.pdfFile.empty()) {
-        f.cmdDrukujWykaz();
+        f.cmdDrukujWykaz_Click();
         c.emitPrint();
         return 0;
     }
@@ -102,11 +102,11 @@ int worktime(cli::Context& c) {
     f.miesiac = miesiac;
     f.pokazMiesiac();
     if (domyslne) {
-        f.cmdWstawG();
-        f.cmdZapiszZmiany();
+        f.cmdWstawG_Click();
+        f.cmdZapiszZmiany_Click();
     }
     if (!c.outFile.empty() || !c.pdfFile.empty()) {
-        f.cmdDrukCzasuPracy();
+        f.cmdDrukCzasuPracy_Click();
         c.emitPrint();
         return 0;
     }

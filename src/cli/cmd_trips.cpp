@@ -43,7 +43,7 @@ cli::Register przelicz(
          ekran.txtGodzinaP.Text = c.args[3];
          ekran.cmbStawka.Text = stawka;
          ekran.txtKursWaluty.Text = kurs;
-         if (!ekran.cmdPrzelicz()) return 1;  // the position was refused with its box
+         if (!ekran.cmdPrzelicz_Click()) return 1;  // the position was refused with its box
          std::cout << "lbRazemGodzin=" << ekran.lbRazemGodzin.Caption << "\n"
                    << "txtWskaznikDiety=" << ekran.txtWskaznikDiety.Text << "\n"
                    << "lbStawka=" << ekran.lbStawka.Caption << "\n"

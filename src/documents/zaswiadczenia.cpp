@@ -46,14 +46,14 @@ ZaswiadczeniaScreen::ZaswiadczeniaScreen(core::Dialogs& ui, core::Session& sessi
     for (core::Control* c : {&txtRazemBrutto, &txtRazemSkladkiZUS, &txtRazemNFZ, &txtRazemZaliczka, &txtRazemNetto,
                              &txtRazemKosztyU, &txtRazemUlga})
         c->Locked = true;
-    cmdPobierzDane_.at(9, 0, 2);
-    cmdUstalonyOkres_.at(9, 2, 2);
-    CmdKoniec_.at(9, 4, 2);
+    cmdPobierzDane.at(9, 0, 2);
+    cmdUstalonyOkres.at(9, 2, 2);
+    CmdKoniec.at(9, 4, 2);
     MSFlexGrid1.setGrid(1, 8);
     for (int c = 0; c < 8; ++c) MSFlexGrid1.TextMatrix(0, c) = kKolumny[c];
-    cmdPobierzDane_.Click = [this] { cmdPobierzDane(); };
-    cmdUstalonyOkres_.Click = [this] { cmdUstalonyOkres(); };
-    CmdKoniec_.Click = [this] { Unload(); };
+    cmdPobierzDane.Click = [this] { cmdPobierzDane_Click(); };
+    cmdUstalonyOkres.Click = [this] { cmdUstalonyOkres_Click(); };
+    CmdKoniec.Click = [this] { Unload(); };
 }
 
 void ZaswiadczeniaScreen::Load() {
@@ -63,7 +63,7 @@ void ZaswiadczeniaScreen::Load() {
     txtDoData.Text = mmRR;
 }
 
-bool ZaswiadczeniaScreen::cmdPobierzDane() {
+bool ZaswiadczeniaScreen::cmdPobierzDane_Click() {
     bool gotowe = false;
     guarded([&] {
         // 1.
@@ -134,9 +134,9 @@ bool drukujDlaOsoby(core::Session& s, core::Dialogs& ui, const Sumy& sumy, const
     return true;
 }
 
-void ZaswiadczeniaScreen::cmdUstalonyOkres() {
+void ZaswiadczeniaScreen::cmdUstalonyOkres_Click() {
     guarded([&] {
-        if (!sumy && !cmdPobierzDane()) return;
+        if (!sumy && !cmdPobierzDane_Click()) return;
         std::optional<std::string> cel = ui.inputBox(kCelPytanie, kCelTytul, kCelPropozycja);
         if (!cel || cel->empty()) cel = kCelPusty;
         const double obciazenia = core::Val(core::KropkaZamiastPrzecinka(std::string(txtObciazeniaSadowe.Text)));

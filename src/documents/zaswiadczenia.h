@@ -15,8 +15,8 @@ public:
     ZaswiadczeniaScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
     // Fills the grid and the totals; false when the command ended without them.
-    bool cmdPobierzDane();
-    void cmdUstalonyOkres();
+    bool cmdPobierzDane_Click();
+    void cmdUstalonyOkres_Click();
 
     core::Session& s;
     std::optional<Sumy> sumy;
@@ -42,10 +42,10 @@ public:
     core::Control txtRazemNetto{this, "txtRazemNetto", core::Kind::TextBox};
     core::Control txtRazemKosztyU{this, "txtRazemKosztyU", core::Kind::TextBox};
     core::Control txtRazemUlga{this, "txtRazemUlga", core::Kind::TextBox};
-    core::Control cmdPobierzDane_{this, "cmdPobierzDane", core::Kind::CommandButton, "&Pobierz dane"};
-    core::Control cmdUstalonyOkres_{this, "cmdUstalonyOkres", core::Kind::CommandButton,
+    core::Control cmdPobierzDane{this, "cmdPobierzDane", core::Kind::CommandButton, "&Pobierz dane"};
+    core::Control cmdUstalonyOkres{this, "cmdUstalonyOkres", core::Kind::CommandButton,
                                     "&Drukuj zaświadczenie o zarobkach "};
-    core::Control CmdKoniec_{this, "CmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control CmdKoniec{this, "CmdKoniec", core::Kind::CommandButton, "&Koniec"};
 };
 
 // The certificate of the person of the session on `ui.printer()` for the period, with the

@@ -310,11 +310,14 @@ QWidget* FormView::make(Control& c) {
         break;
     }
     case Kind::FolderTree: {
+        // The model reads nothing until the control is shown with a folder (see pushOne): the
+        // tree is rooted there, so a start with the control hidden does not walk the disk.
         auto* tree = new QTreeView(this);
         auto* model = new QFileSystemModel(tree);
         model->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-        model->setRootPath("/");
         tree->setModel(model);
+        tree->setRootIsDecorated(true);
+        tree->setToolTip("Podfoldery wskazanego folderu; inne miejsce wybierz w polu Dysk");
         for (int i = 1; i < model->columnCount(); ++i) tree->hideColumn(i);
         tree->setHeaderHidden(true);
         tree->setMinimumHeight(160);
@@ -492,10 +495,21 @@ void FormView::pushOne(Control& c, QWidget* w) {
         break;
     }
     case Kind::FolderTree: {
+        // A folder picked in the tree stays below its root; any other folder (the data folder,
+        // a drive of drvStacjaDyskow) becomes the root, read only then and only that far.
         auto* tree = static_cast<QTreeView*>(w);
         auto* model = static_cast<QFileSystemModel*>(tree->model());
-        QModelIndex idx = model->index(q(c.Text));
-        if (idx.isValid()) {
+        if (!c.Visible || c.Text.empty()) break;
+        const QString folder = QDir::cleanPath(q(c.Text));
+        const QString root = model->rootPath();
+        const bool ponizej = !root.isEmpty() && (folder == root || folder.startsWith(root.endsWith('/') ? root : root + '/'));
+        if (!ponizej) {
+            tree->setCurrentIndex(QModelIndex());
+            tree->setRootIndex(model->setRootPath(folder));
+            break;
+        }
+        QModelIndex idx = model->index(folder);
+        if (idx.isValid() && idx != tree->rootIndex() && idx != tree->currentIndex()) {
             tree->setCurrentIndex(idx);
             tree->scrollTo(idx);
         }

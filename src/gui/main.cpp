@@ -10,21 +10,21 @@
 #include "gui/mainwindow.h"
 #include "gui/qtdialogs.h"
 #include "gui/routes.h"
-#include "reference/folder_danych.h"
-#include "reference/place.h"
+#include "app/folder_danych.h"
+#include "app/place.h"
 
 namespace fs = std::filesystem;
 
 // Started from the desktop menu the working folder is the home folder, which holds no data:
 // the folder chosen once is remembered, and the first time the operator is asked for it.
 static void przejdzDoFolderuDanych(core::Dialogs& ui) {
-    if (reference::jestFolderemDanych(fs::current_path())) return;
+    if (app::jestFolderemDanych(fs::current_path())) return;
     QSettings ustawienia("pensja", "pensja");
     fs::path zapamietany = ustawienia.value("folderDanych").toString().toStdString();
-    if (zapamietany.empty() || !reference::jestFolderemDanych(zapamietany)) {
-        fs::path demo = reference::folderDemo(QCoreApplication::applicationDirPath().toStdString());
+    if (zapamietany.empty() || !app::jestFolderemDanych(zapamietany)) {
+        fs::path demo = app::folderDemo(QCoreApplication::applicationDirPath().toStdString());
         fs::path domyslny = fs::path(QDir::homePath().toStdString()) / "pensja-dane";
-        auto wybrany = reference::wybierzFolderDanych(ui, demo, domyslny);
+        auto wybrany = app::wybierzFolderDanych(ui, demo, domyslny);
         if (!wybrany) return;
         zapamietany = fs::absolute(*wybrany);
         ustawienia.setValue("folderDanych", QString::fromStdString(zapamietany.string()));
@@ -43,7 +43,7 @@ int main(int argc, char** argv) {
     gui::registerAllScreens(screens);
     dialogs.screens = &screens;
     dialogs.writerSession = &session;
-    reference::PlaceScreen place(dialogs, session);
+    app::PlaceScreen place(dialogs, session);
     gui::MainWindow win(place);
     dialogs.setParent(&win);
     win.view()->runWork([&] { place.Load(); });

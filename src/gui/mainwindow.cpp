@@ -7,7 +7,7 @@
 
 namespace gui {
 
-MainWindow::MainWindow(reference::PlaceScreen& place) {
+MainWindow::MainWindow(app::PlaceScreen& place) {
     setObjectName("frmPlace");
     view_ = new FormView(place, this);
     if (view_->menuBar()) setMenuBar(view_->menuBar());

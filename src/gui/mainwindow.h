@@ -3,14 +3,14 @@
 #include <QMainWindow>
 
 #include "gui/formview.h"
-#include "reference/place.h"
+#include "app/place.h"
 
 namespace gui {
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
-    explicit MainWindow(reference::PlaceScreen& place);
+    explicit MainWindow(app::PlaceScreen& place);
     FormView* view() const { return view_; }
 
 protected:

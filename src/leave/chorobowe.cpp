@@ -102,7 +102,7 @@ ChoroboweScreen::ChoroboweScreen(core::Dialogs& d, core::Session& session)
         for (const char* ramka : {"fraPlatne", "fraBezplatne"}) {
             const bool platna = ramka == std::string("fraPlatne");
             if (!platna && (k == 0 || k >= 5)) continue;
-            auto& c = naglowki_.emplace_back(std::make_unique<core::Control>(
+            auto& c = naglowki.emplace_back(std::make_unique<core::Control>(
                 this, std::string(platna ? "lbKolumna" : "lbKolumnaB") + std::to_string(k + 1), core::Kind::Label,
                 etykiety[k]));
             c->in(ramka).at(0, platna ? k : k - 1);
@@ -134,21 +134,21 @@ ChoroboweScreen::ChoroboweScreen(core::Dialogs& d, core::Session& session)
     MonthView1.Visible = MonthView2.Visible = false;
     MSFlexGrid9.at(2, 0, 3).width(96);
     MSFlexGrid9.Visible = false;
-    cmdWylaczHistorie_.Visible = false;
-    cmdZapiszzmiany_.at(3, 0);
-    cmdWylicz_.at(3, 1);
-    cmdHistoriachorobowego_.at(4, 0);
-    cmdWylaczHistorie_.at(4, 1);
-    cmdWprowadzDoCzasuPracy_.at(5, 0);
-    cmdkoniec_.at(5, 1);
+    cmdWylaczHistorie.Visible = false;
+    cmdZapiszzmiany.at(3, 0);
+    cmdWylicz.at(3, 1);
+    cmdHistoriachorobowego.at(4, 0);
+    cmdWylaczHistorie.at(4, 1);
+    cmdWprowadzDoCzasuPracy.at(5, 0);
+    cmdkoniec.at(5, 1);
     MonthView1.Click = [this] { MonthView1_DateClick(); };
     MonthView2.Click = [this] { MonthView2_DateClick(); };
-    cmdZapiszzmiany_.Click = [this] { cmdZapiszzmiany(); };
-    cmdWylicz_.Click = [this] { cmdWylicz(); };
-    cmdHistoriachorobowego_.Click = [this] { cmdHistoriachorobowego(); };
-    cmdWylaczHistorie_.Click = [this] { cmdWylaczHistorie(); };
-    cmdWprowadzDoCzasuPracy_.Click = [this] { cmdWprowadzDoCzasuPracy(); };
-    cmdkoniec_.Click = [this] { Unload(); };
+    cmdZapiszzmiany.Click = [this] { cmdZapiszzmiany_Click(); };
+    cmdWylicz.Click = [this] { cmdWylicz_Click(); };
+    cmdHistoriachorobowego.Click = [this] { cmdHistoriachorobowego_Click(); };
+    cmdWylaczHistorie.Click = [this] { cmdWylaczHistorie_Click(); };
+    cmdWprowadzDoCzasuPracy.Click = [this] { cmdWprowadzDoCzasuPracy_Click(); };
+    cmdkoniec.Click = [this] { Unload(); };
 }
 
 double ChoroboweScreen::sumaDni() const {
@@ -172,7 +172,7 @@ void ChoroboweScreen::Load() {
         if (ile == 0) {
             ui.msgBox("Ta osoba nie ma danych płacowych na tej liście. Załóż je najpierw w oknie płac.", Buttons::OK,
                       Icon::Information, "Brak danych płacowych");
-            cmdZapiszzmiany_.Enabled = false;
+            cmdZapiszzmiany.Enabled = false;
         }
     });
 }
@@ -236,7 +236,7 @@ void ChoroboweScreen::kwoty(core::Record& r) {
     LbCHR.Caption = kwotaTekst(core::Round2(suma));
 }
 
-void ChoroboweScreen::cmdZapiszzmiany() {
+void ChoroboweScreen::cmdZapiszzmiany_Click() {
     for (core::Control* c : controls())
         if (c->kind == core::Kind::TextBox && !wpisPoprawny(*this, c->Text)) return SetFocus(*c);
     guarded([&] {
@@ -280,15 +280,15 @@ void ChoroboweScreen::cmdZapiszzmiany() {
     });
 }
 
-void ChoroboweScreen::cmdWylicz() {
+void ChoroboweScreen::cmdWylicz_Click() {
     SredniaScreen f(ui, s, &txtSredniaChorobowa);
     ui.showForm(f);
 }
 
 void ChoroboweScreen::wejscieOd(int n) {
     MonthView1.Visible = true;
-    linia_ = n;
-    dniLinii_ = static_cast<int>(val(linia(n).dni->Text));
+    biezacaLinia = n;
+    dniBiezacejLinii = static_cast<int>(val(linia(n).dni->Text));
 }
 
 void ChoroboweScreen::wejscieDo1() { MonthView2.Visible = true; }
@@ -305,17 +305,17 @@ void ChoroboweScreen::enterDo1() {
 }
 
 void ChoroboweScreen::MonthView1_DateClick() {
-    if (linia_ < 1 || linia_ > 7) return;
+    if (biezacaLinia < 1 || biezacaLinia > 7) return;
     guarded([&] {
-        Linia l = linia(linia_);
+        Linia l = linia(biezacaLinia);
         const std::string data = bezSeparatorow(MonthView1.Text);
         const core::Date d = dataLinii(data, MonthView1.Name);
         l.od->Text = data;
-        KoniecLinii k = koniecLinii(d.d, dniLinii_, dniMiesiacaListy());
+        KoniecLinii k = koniecLinii(d.d, dniBiezacejLinii, dniMiesiacaListy());
         if (k.przycieta)
             ui.msgBox(" Ustaw ręcznie datę Do i ilość dni!", Buttons::OK, Icon::Exclamation,
                       " Przekroczona ilośc  dni poza okres sprawozdawczy ");
-        dniLinii_ = k.dni;
+        dniBiezacejLinii = k.dni;
         l.dni->Text = std::to_string(k.dni);
         if (k.dni == 0) l.doDnia->Text = l.od->Text;
         l.doDnia->Text = core::CyfryTekst(k.dzien, 2) + core::Right(data, 6);
@@ -353,7 +353,7 @@ void ChoroboweScreen::txtokresDo1_Change(bool enter) {
     });
 }
 
-void ChoroboweScreen::cmdHistoriachorobowego() {
+void ChoroboweScreen::cmdHistoriachorobowego_Click() {
     MSFlexGrid9.setGrid(1, kKolumnyHistorii);
     for (int c = 0; c < kKolumnyHistorii; ++c) MSFlexGrid9.TextMatrix(0, c) = kNaglowkiHistorii[c];
     double rokDniP = 0, rokKwP = 0, rokDniZ = 0, rokKwZ = 0;
@@ -405,15 +405,15 @@ void ChoroboweScreen::cmdHistoriachorobowego() {
     ++MSFlexGrid9.Rows;
     lbLacznaIloscDni.Caption = core::numText(laczna);
     MSFlexGrid9.Visible = true;
-    cmdWylaczHistorie_.Visible = true;
+    cmdWylaczHistorie.Visible = true;
 }
 
-void ChoroboweScreen::cmdWylaczHistorie() {
+void ChoroboweScreen::cmdWylaczHistorie_Click() {
     MSFlexGrid9.Visible = false;
-    cmdWylaczHistorie_.Visible = false;
+    cmdWylaczHistorie.Visible = false;
 }
 
-void ChoroboweScreen::cmdWprowadzDoCzasuPracy() {
+void ChoroboweScreen::cmdWprowadzDoCzasuPracy_Click() {
     guarded([&] {
         const auto plik = CzasPracy::path(s, s.rok());
         std::vector<CzasPracy::Blok> bloki = CzasPracy::readAll(plik);
@@ -421,8 +421,8 @@ void ChoroboweScreen::cmdWprowadzDoCzasuPracy() {
         const int m = core::ValInt(s.miesiac(), "frmChorobowe");
         core::SeqWriter w;
         for (const CzasPracy::Blok& b : bloki) {
-            if (b.identyfikator() != s.KluczOsoby || m < 1 || m > 12) {
-                CzasPracy::writeBlok(w, b);
+            if (b.naglowek.s(CzasPracy::Naglowek::Identyfikator) != s.KluczOsoby || m < 1 || m > 12) {
+                core::piszBlok(w, b);
                 continue;
             }
             // The day lines of the list's month are to come from a month grid this screen has

@@ -41,11 +41,11 @@ public:
     ChoroboweScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
 
-    void cmdZapiszzmiany();
-    void cmdWylicz();
-    void cmdHistoriachorobowego();
-    void cmdWylaczHistorie();
-    void cmdWprowadzDoCzasuPracy();
+    void cmdZapiszzmiany_Click();
+    void cmdWylicz_Click();
+    void cmdHistoriachorobowego_Click();
+    void cmdWylaczHistorie_Click();
+    void cmdWprowadzDoCzasuPracy_Click();
     // Entering a start field of line 1 .. 7 (the paid lines, then the unpaid ones).
     void wejscieOd(int linia);
     void wejscieDo1();
@@ -107,24 +107,24 @@ public:
     core::Control MonthView1{this, "MonthView1", core::Kind::MonthView};
     core::Control MonthView2{this, "MonthView2", core::Kind::MonthView};
     core::Control MSFlexGrid9{this, "MSFlexGrid9", core::Kind::Grid};
-    core::Control cmdZapiszzmiany_{this, "cmdZapiszzmiany", core::Kind::CommandButton, "&Zapisz Zmiany"};
-    core::Control cmdWylicz_{this, "cmdWylicz", core::Kind::CommandButton, "&Wylicz średnią"};
-    core::Control cmdHistoriachorobowego_{this, "cmdHistoriachorobowego", core::Kind::CommandButton, "&Historia"};
-    core::Control cmdWylaczHistorie_{this, "cmdWylaczHistorie", core::Kind::CommandButton, "Ukryj historię"};
-    core::Control cmdWprowadzDoCzasuPracy_{this, "cmdWprowadzDoCzasuPracy", core::Kind::CommandButton,
+    core::Control cmdZapiszzmiany{this, "cmdZapiszzmiany", core::Kind::CommandButton, "&Zapisz Zmiany"};
+    core::Control cmdWylicz{this, "cmdWylicz", core::Kind::CommandButton, "&Wylicz średnią"};
+    core::Control cmdHistoriachorobowego{this, "cmdHistoriachorobowego", core::Kind::CommandButton, "&Historia"};
+    core::Control cmdWylaczHistorie{this, "cmdWylaczHistorie", core::Kind::CommandButton, "Ukryj historię"};
+    core::Control cmdWprowadzDoCzasuPracy{this, "cmdWprowadzDoCzasuPracy", core::Kind::CommandButton,
                                            "w&Prowadź do czasu pracy"};
-    core::Control cmdkoniec_{this, "cmdkoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdkoniec{this, "cmdkoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
-    std::vector<std::unique_ptr<core::Control>> naglowki_;  // the column captions of the lines
+    std::vector<std::unique_ptr<core::Control>> naglowki;  // the column captions of the lines
     void otworzRekord(core::Record& r);
     void doRekordu(core::Record& r);
     void kwoty(core::Record& r);
     double sumaDni() const;
     int dniMiesiacaListy() const;
 
-    int linia_ = 0;     // the line being edited, 1 .. 7
-    int dniLinii_ = 0;  // its days when its start field was entered
+    int biezacaLinia = 0;      // the line being edited, 1 .. 7
+    int dniBiezacejLinii = 0;  // its days when its start field was entered
 };
 
 }  // namespace leave

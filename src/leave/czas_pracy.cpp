@@ -33,32 +33,32 @@ double liczba(const std::string& t) {
 CzasPracyScreen::CzasPracyScreen(core::Dialogs& d, core::Session& session)
     : Form(d, "frmCzasPracy", "Rozliczenie czasu pracy dla"), s(session) {
     LbData.at(0, 0).label("Miesiąc");
-    cmdWroc_.at(0, 1);
-    cmdNext_.at(0, 2);
+    cmdWroc.at(0, 1);
+    cmdNext.at(0, 2);
     lbwskEtatu.at(0, 3).label("Wskaźnik etatu");
     lbIloscDniPracy.at(0, 4).label("Ilość dni pracy");
     MSFlexGrid1.at(1, 0, 10).width(106);
     MSFlexGrid1.Mono = true;
-    cmdWstawG_.at(2, 0);
-    cmdZeruj_.at(2, 1);
-    cmdZapiszZmiany_.at(2, 2);
-    cmdDrukCzasuPracy_.at(2, 3);
-    cmdKoniec_.at(2, 4);
+    cmdWstawG.at(2, 0);
+    cmdZeruj.at(2, 1);
+    cmdZapiszZmiany.at(2, 2);
+    cmdDrukCzasuPracy.at(2, 3);
+    cmdKoniec.at(2, 4);
     MSFlexGrid1.setGrid(kWierszRazem + 1, KolCP::Count);
     MSFlexGrid1.ColWidth = {3, 32, 4, 4, 4, 4, 5, 5, 4, 4, 6};
-    cmdWroc_.Click = [this] { cmdWroc(); };
-    cmdNext_.Click = [this] { cmdNext(); };
-    cmdWstawG_.Click = [this] { cmdWstawG(); };
-    cmdZeruj_.Click = [this] { cmdZeruj(); };
-    cmdZapiszZmiany_.Click = [this] { cmdZapiszZmiany(); };
-    cmdDrukCzasuPracy_.Click = [this] { cmdDrukCzasuPracy(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    cmdWroc.Click = [this] { cmdWroc_Click(); };
+    cmdNext.Click = [this] { cmdNext_Click(); };
+    cmdWstawG.Click = [this] { cmdWstawG_Click(); };
+    cmdZeruj.Click = [this] { cmdZeruj_Click(); };
+    cmdZapiszZmiany.Click = [this] { cmdZapiszZmiany_Click(); };
+    cmdDrukCzasuPracy.Click = [this] { cmdDrukCzasuPracy_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
     MSFlexGrid1.DblClick = [this] { MSFlexGrid1_DblClick(); };
 }
 
 void CzasPracyScreen::Load() {
     Caption = "Rozliczenie czasu pracy dla " + s.NazwiskoOsoby + " " + s.ImieOsoby;
-    rok_ = core::ValInt(s.rok(), "frmCzasPracy");
+    rokPliku = core::ValInt(s.rok(), "frmCzasPracy");
     miesiac = core::ValInt(s.miesiac(), "frmCzasPracy");
     if (miesiac < 1 || miesiac > 12) miesiac = 1;
     guarded([&] {
@@ -72,20 +72,20 @@ void CzasPracyScreen::Load() {
 void CzasPracyScreen::wczytaj() {
     core::ensureFolder(s.payerFolder(), {"godziny"});
     const auto plik = CzasPracy::path(s, s.rok());
-    bloki_ = core::fileExists(plik) ? CzasPracy::readAll(plik) : std::vector<CzasPracy::Blok>{};
-    if (!CzasPracy::znajdz(bloki_, s.KluczOsoby)) {
-        bloki_.push_back(CzasPracy::nowyBlok(s.NazwiskoOsoby, s.ImieOsoby, s.KluczOsoby, rok_));
-        CzasPracy::writeAll(plik, bloki_, CzasPracy::nazwaTymczasowa(s, s.rok(), false));
+    blokiPliku = core::fileExists(plik) ? CzasPracy::readAll(plik) : std::vector<CzasPracy::Blok>{};
+    if (!CzasPracy::znajdz(blokiPliku, s.KluczOsoby)) {
+        blokiPliku.push_back(CzasPracy::nowyBlok(s.NazwiskoOsoby, s.ImieOsoby, s.KluczOsoby, rokPliku));
+        CzasPracy::writeAll(plik, blokiPliku, CzasPracy::nazwaTymczasowa(s, s.rok(), false));
     }
 }
 
 void CzasPracyScreen::pokazMiesiac() {
-    const CzasPracy::Blok* b = CzasPracy::znajdz(bloki_, s.KluczOsoby);
+    const CzasPracy::Blok* b = CzasPracy::znajdz(blokiPliku, s.KluczOsoby);
     MSFlexGrid1.setGrid(kWierszRazem + 1, KolCP::Count);
     for (int c = 0; c < KolCP::Count; ++c) MSFlexGrid1.TextMatrix(0, c) = kNaglowki[c];
-    LbData.Caption = core::FormatDate({rok_, miesiac, 1}, "mmmm,yyyy");
+    LbData.Caption = core::FormatDate({rokPliku, miesiac, 1}, "mmmm,yyyy");
     for (int d = 1; d <= 31; ++d) {
-        const core::Date data{rok_, miesiac, d};
+        const core::Date data{rokPliku, miesiac, d};
         const bool jest = core::validDate(data);
         MSFlexGrid1.TextMatrix(d, KolCP::NazwaDnia) = jest ? core::FormatDate(data, "dddd,dd,mmmm,yyyy") : kBrakDnia;
         if (b) {
@@ -97,7 +97,7 @@ void CzasPracyScreen::pokazMiesiac() {
         for (int c = 0; c < KolCP::Count; ++c) {
             core::Control::CellStyle& st = MSFlexGrid1.Style(d, c);
             if (!jest) st.back = kKolorBrakDnia;
-            else if (dzienWolny(rok_, miesiac, d)) st.back = kKolorWolne;
+            else if (dzienWolny(rokPliku, miesiac, d)) st.back = kKolorWolne;
             if (swieto) st.fore = kKolorNiebieski, st.bold = true;
         }
     }
@@ -121,10 +121,10 @@ void CzasPracyScreen::sumy() {
     lbIloscDniPracy.Caption = std::to_string(dniPracy);
 }
 
-void CzasPracyScreen::cmdWstawG() {
+void CzasPracyScreen::cmdWstawG_Click() {
     for (int d = 1; d <= 31; ++d) {
         const bool swieto = MSFlexGrid1.TextMatrix(d, KolCP::Swieto) == "S";
-        const bool wolny = brakDnia(d) || swieto || dzienWolny(rok_, miesiac, d);
+        const bool wolny = brakDnia(d) || swieto || dzienWolny(rokPliku, miesiac, d);
         for (int c = KolCP::Gp; c <= KolCP::Swieto; ++c) MSFlexGrid1.TextMatrix(d, c).clear();
         if (swieto) MSFlexGrid1.TextMatrix(d, KolCP::Swieto) = "S";
         if (wolny) continue;
@@ -133,18 +133,18 @@ void CzasPracyScreen::cmdWstawG() {
     sumy();
 }
 
-void CzasPracyScreen::cmdZeruj() {
+void CzasPracyScreen::cmdZeruj_Click() {
     for (int d = 1; d <= 31; ++d)
         for (int c = KolCP::Gp; c <= KolCP::GCh; ++c) MSFlexGrid1.TextMatrix(d, c).clear();
     sumy();
 }
 
-void CzasPracyScreen::cmdNext() {
+void CzasPracyScreen::cmdNext_Click() {
     miesiac = miesiac % 12 + 1;
     pokazMiesiac();
 }
 
-void CzasPracyScreen::cmdWroc() {
+void CzasPracyScreen::cmdWroc_Click() {
     miesiac = miesiac == 1 ? 12 : miesiac - 1;
     pokazMiesiac();
 }
@@ -166,13 +166,13 @@ void CzasPracyScreen::MSFlexGrid1_DblClick() {
     sumy();
 }
 
-void CzasPracyScreen::cmdZapiszZmiany() {
+void CzasPracyScreen::cmdZapiszZmiany_Click() {
     try {
         const auto plik = CzasPracy::path(s, s.rok());
-        std::vector<CzasPracy::Blok> bloki = core::fileExists(plik) ? CzasPracy::readAll(plik) : bloki_;
+        std::vector<CzasPracy::Blok> bloki = core::fileExists(plik) ? CzasPracy::readAll(plik) : blokiPliku;
         CzasPracy::Blok* b = CzasPracy::znajdz(bloki, s.KluczOsoby);
         if (!b) {
-            bloki.push_back(*CzasPracy::znajdz(bloki_, s.KluczOsoby));
+            bloki.push_back(*CzasPracy::znajdz(blokiPliku, s.KluczOsoby));
             b = &bloki.back();
         }
         for (int d = 1; d <= 31; ++d) {
@@ -183,14 +183,14 @@ void CzasPracyScreen::cmdZapiszZmiany() {
             }
         }
         CzasPracy::writeAll(plik, bloki, CzasPracy::nazwaTymczasowa(s, s.rok(), true));
-        bloki_ = std::move(bloki);
+        blokiPliku = std::move(bloki);
         sumy();
     } catch (const core::Error& e) {
         ui.msgBox(core::errorReport(e, Words), Buttons::OK, Icon::Critical, "Błąd");
     }
 }
 
-void CzasPracyScreen::cmdDrukCzasuPracy() {
+void CzasPracyScreen::cmdDrukCzasuPracy_Click() {
     // The date column is one wider than the heading's words: "poniedziałek,dd,mm,yy" has 21.
     const std::string naglowek =
         "|Dzień miesiąca       |GodzPr |Godz50 |Godz100|RmGPr  |Limit  |Swięto |RmUrlop|";
@@ -211,7 +211,7 @@ void CzasPracyScreen::cmdDrukCzasuPracy() {
     p.print(linijka);
     for (int d = 1; d <= 31; ++d) {
         if (brakDnia(d)) continue;
-        p.print("|" + core::PadRight(core::FormatDate({rok_, miesiac, d}, "dddd,dd,mm,yy"), 21) + "|" + wartosci(d));
+        p.print("|" + core::PadRight(core::FormatDate({rokPliku, miesiac, d}, "dddd,dd,mm,yy"), 21) + "|" + wartosci(d));
     }
     p.print(linijka);
     p.print("| Razem               |" + wartosci(kWierszRazem));

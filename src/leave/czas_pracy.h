@@ -24,18 +24,18 @@ public:
 
     // The grid from the person's block for `miesiac`, with the totals.
     void pokazMiesiac();
-    void cmdWstawG();
-    void cmdZeruj();
-    void cmdNext();
-    void cmdWroc();
-    void cmdZapiszZmiany();
-    void cmdDrukCzasuPracy();
+    void cmdWstawG_Click();
+    void cmdZeruj_Click();
+    void cmdNext_Click();
+    void cmdWroc_Click();
+    void cmdZapiszZmiany_Click();
+    void cmdDrukCzasuPracy_Click();
     // The entry of the cell MSFlexGrid1.Row, MSFlexGrid1.Col.
     void MSFlexGrid1_DblClick();
     // The totals row and the count of working days.
     void sumy();
 
-    int rok() const { return rok_; }
+    int rok() const { return rokPliku; }
     int miesiac = 1;  // the month shown, 1 .. 12
 
     core::Session& s;
@@ -43,20 +43,20 @@ public:
     core::Control lbwskEtatu{this, "lbwskEtatu", core::Kind::Label};
     core::Control lbIloscDniPracy{this, "lbIloscDniPracy", core::Kind::Label};
     core::Control MSFlexGrid1{this, "MSFlexGrid1", core::Kind::Grid};
-    core::Control cmdWroc_{this, "cmdWróć", core::Kind::CommandButton, "<--"};
-    core::Control cmdNext_{this, "cmdNext", core::Kind::CommandButton, "   -->"};
-    core::Control cmdWstawG_{this, "cmdWstawG", core::Kind::CommandButton, "&Wstaw deflautowo"};
-    core::Control cmdZeruj_{this, "cmdZeruj", core::Kind::CommandButton, "Zer&uj"};
-    core::Control cmdZapiszZmiany_{this, "cmdZapiszZmiany", core::Kind::CommandButton, "&Zapisz Zmiany"};
-    core::Control cmdDrukCzasuPracy_{this, "cmdDrukCzasuPracy", core::Kind::CommandButton, "&Drukuj"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdWroc{this, "cmdWróć", core::Kind::CommandButton, "<--"};
+    core::Control cmdNext{this, "cmdNext", core::Kind::CommandButton, "   -->"};
+    core::Control cmdWstawG{this, "cmdWstawG", core::Kind::CommandButton, "&Wstaw deflautowo"};
+    core::Control cmdZeruj{this, "cmdZeruj", core::Kind::CommandButton, "Zer&uj"};
+    core::Control cmdZapiszZmiany{this, "cmdZapiszZmiany", core::Kind::CommandButton, "&Zapisz Zmiany"};
+    core::Control cmdDrukCzasuPracy{this, "cmdDrukCzasuPracy", core::Kind::CommandButton, "&Drukuj"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     bool brakDnia(int wiersz) const { return MSFlexGrid1.TextMatrix(wiersz, KolCP::NazwaDnia) == kBrakDnia; }
     void wczytaj();
 
-    int rok_ = 0;
-    std::vector<CzasPracy::Blok> bloki_;
+    int rokPliku = 0;
+    std::vector<CzasPracy::Blok> blokiPliku;
 };
 
 }  // namespace leave

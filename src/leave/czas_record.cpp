@@ -53,39 +53,17 @@ std::string nazwaTymczasowa(const core::Session& s, const std::string& rok, bool
     return zSpacja ? "CP" + s.NazwaZbioru + rok + ".tym " : "CPT" + s.NazwaZbioru + rok + ".dta";
 }
 
-Blok readBlok(core::SeqReader& in) {
-    Blok b;
-    b.naglowek = core::readRecord(in, Naglowek::schema());
-    for (int m = 0; m < 12; ++m) {
-        b.miesiace[m] = core::readRecord(in, Miesiac::schema());
-        for (int d = 0; d < 31; ++d) b.dni[m][d] = core::readRecord(in, Dzien::schema());
-    }
-    return b;
+const core::UkladBloku& uklad() {
+    static const core::UkladBloku kUklad{Naglowek::schema(), Miesiac::schema(), Dzien::schema()};
+    return kUklad;
 }
 
-std::vector<Blok> readAll(core::SeqReader& in) {
-    std::vector<Blok> out;
-    while (!in.eof()) out.push_back(readBlok(in));
-    return out;
-}
+std::vector<Blok> readAll(core::SeqReader& in) { return core::czytajBloki(in, uklad()); }
 
-std::vector<Blok> readAll(const fs::path& file) {
-    core::SeqReader in(file);
-    return readAll(in);
-}
-
-void writeBlok(core::SeqWriter& w, const Blok& b) {
-    core::writeRecord(w, b.naglowek);
-    for (int m = 0; m < 12; ++m) {
-        core::writeRecord(w, b.miesiace[m]);
-        for (int d = 0; d < 31; ++d) core::writeRecord(w, b.dni[m][d]);
-    }
-}
+std::vector<Blok> readAll(const fs::path& file) { return core::czytajBloki(file, uklad()); }
 
 void writeAll(const fs::path& file, const std::vector<Blok>& blocks, const std::string& tempName) {
-    core::SeqWriter w;
-    for (const Blok& b : blocks) writeBlok(w, b);
-    core::commitFile(file, w, tempName);
+    core::piszBloki(file, blocks, tempName);
 }
 
 Blok nowyBlok(const std::string& nazwisko, const std::string& imie, const std::string& identyfikator, int rok) {
@@ -114,7 +92,7 @@ Blok nowyBlok(const std::string& nazwisko, const std::string& imie, const std::s
 
 Blok* znajdz(std::vector<Blok>& blocks, const std::string& identyfikator) {
     for (Blok& b : blocks)
-        if (b.identyfikator() == identyfikator) return &b;
+        if (b.naglowek.s(Naglowek::Identyfikator) == identyfikator) return &b;
     return nullptr;
 }
 

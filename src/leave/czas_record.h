@@ -4,11 +4,11 @@
 // values (day, hours, overtime at 50 and 100 percent, further hours, the day's limit, leave,
 // other absence, sickness, four kept values, the holiday mark "S").
 #pragma once
-#include <array>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "core/blok_roku.h"
 #include "core/record.h"
 #include "core/session.h"
 
@@ -29,12 +29,9 @@ enum : int { Dm = 1, Gp, G50, G100, Lpg, Limit, GUr, GN, GCh, Rezerwa10, Rezerwa
 const core::Schema& schema();
 }  // namespace Dzien
 
-struct Blok {
-    core::Record naglowek;
-    std::array<core::Record, 12> miesiace;             // month 1 .. 12
-    std::array<std::array<core::Record, 31>, 12> dni;  // [month-1][day-1]
-    std::string identyfikator() const { return naglowek.s(Naglowek::Identyfikator); }
-};
+using Blok = core::BlokRoku;
+// The three schemas of a block.
+const core::UkladBloku& uklad();
 
 // godziny\CP<NazwaZbioru><rok>.dta of the session's payer.
 std::filesystem::path path(const core::Session& s, const std::string& rok);
@@ -44,8 +41,6 @@ std::string nazwaTymczasowa(const core::Session& s, const std::string& rok, bool
 
 std::vector<Blok> readAll(const std::filesystem::path& file);
 std::vector<Blok> readAll(core::SeqReader& in);
-Blok readBlok(core::SeqReader& in);
-void writeBlok(core::SeqWriter& w, const Blok& b);
 // Rewrites the file with the blocks, through `tempName` in its folder.
 void writeAll(const std::filesystem::path& file, const std::vector<Blok>& blocks, const std::string& tempName);
 

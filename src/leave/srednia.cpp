@@ -63,7 +63,7 @@ std::vector<std::string> okresySredniej(int miesiac, int rok) {
 }
 
 SredniaScreen::SredniaScreen(core::Dialogs& d, core::Session& session, core::Control* cel)
-    : Form(d, "frmSrednia", "Średnia dzienna z 12 miesiecy "), s(session), cel_(cel) {
+    : Form(d, "frmSrednia", "Średnia dzienna z 12 miesiecy "), s(session), celSredniej(cel) {
     MSFlexGrid7.at(0, 0, 2).width(100);
     MSFlexGrid7.Mono = true;
     MSFlexGrid7.VisibleRows = 12;
@@ -81,18 +81,18 @@ SredniaScreen::SredniaScreen(core::Dialogs& d, core::Session& session, core::Con
     txtPodstawaStawki.in("fraSumy").at(2, 2).label("Podstawa stawki").width(10);
     txtSredniadzienna.in("fraSumy").at(3, 2).labelledBy(lbSredniaZ).width(10);
     Label1.in("fraSumy").at(4, 0, 4);
-    cmdWylicz_.at(2, 0);
-    cmdPobierzIloscdni_.at(2, 1);
-    CmdWyliczSrednia_.at(3, 0);
-    CmdWstaw_.at(3, 1);
+    cmdWylicz.at(2, 0);
+    cmdPobierzIloscdni.at(2, 1);
+    CmdWyliczSrednia.at(3, 0);
+    CmdWstaw.at(3, 1);
     Command1.at(4, 0);
     MSFlexGrid7.setGrid(1, KolS::Count);
     for (int c = 0; c < KolS::Count; ++c) MSFlexGrid7.TextMatrix(0, c) = kNaglowki[c];
     MSFlexGrid7.ColWidth = {5, 6, 10, 9, 9, 8, 10, 8, 8, 8, 24};
-    cmdWylicz_.Click = [this] { cmdWylicz(); };
-    cmdPobierzIloscdni_.Click = [this] { cmdPobierzIloscdni(); };
-    CmdWyliczSrednia_.Click = [this] { CmdWyliczSrednia(); };
-    CmdWstaw_.Click = [this] { CmdWstaw(); };
+    cmdWylicz.Click = [this] { cmdWylicz_Click(); };
+    cmdPobierzIloscdni.Click = [this] { cmdPobierzIloscdni_Click(); };
+    CmdWyliczSrednia.Click = [this] { CmdWyliczSrednia_Click(); };
+    CmdWstaw.Click = [this] { CmdWstaw_Click(); };
     Command1.Click = [this] { Unload(); };
 }
 
@@ -113,7 +113,7 @@ void SredniaScreen::wiersz(const std::vector<std::string>& komorki) {
     ++MSFlexGrid7.Rows;
 }
 
-void SredniaScreen::cmdWylicz() {
+void SredniaScreen::cmdWylicz_Click() {
     if (MSFlexGrid7.Rows > 1) return;
     guarded([&] {
         const int M = core::ValInt(s.miesiac(), "frmSrednia");
@@ -172,10 +172,10 @@ void SredniaScreen::srednia(float netto, int miesiecy) {
     lbSredniaZ.Caption = "Średnia dzienna z " + m + " miesiecy";
     if (miesiecy > 0) txtSredniadzienna.Text = kwota(core::Round2(static_cast<double>(netto) / (miesiecy * 30)));
     core::KropkaZamiastPrzecinka(txtSredniadzienna.Text);
-    if (cel_) cel_->Text = txtSredniadzienna.Text;
+    if (celSredniej) celSredniej->Text = txtSredniadzienna.Text;
 }
 
-void SredniaScreen::CmdWyliczSrednia() {
+void SredniaScreen::CmdWyliczSrednia_Click() {
     const double placa = val(txtRazeMPlaca.Text), godz = val(txtRazemGodziny.Text), dod = val(txtRazemDodatki.Text);
     const double dwunasta = val(txtTrzynastka.Text) / 12;
     const int miesiecy = core::ValInt(LbiloscMiesiecy.Caption, "frmSrednia");
@@ -185,14 +185,14 @@ void SredniaScreen::CmdWyliczSrednia() {
     srednia(core::Round2(static_cast<double>(ogolem) * (1 - sumaSkladek())), miesiecy);
 }
 
-void SredniaScreen::CmdWstaw() {
+void SredniaScreen::CmdWstaw_Click() {
     core::KropkaZamiastPrzecinka(txtSredniadzienna.Text);
     if (!(val(txtSredniadzienna.Text) > 0)) return;
-    if (cel_) cel_->Text = txtSredniadzienna.Text;
+    if (celSredniej) celSredniej->Text = txtSredniadzienna.Text;
     Unload();
 }
 
-void SredniaScreen::cmdPobierzIloscdni() {
+void SredniaScreen::cmdPobierzIloscdni_Click() {
     guarded([&] {
         bool brak = MSFlexGrid7.Rows <= 1;
         for (int r = 1; r < MSFlexGrid7.Rows; ++r) {

@@ -27,10 +27,10 @@ public:
     SredniaScreen(core::Dialogs& ui, core::Session& s, core::Control* cel);
     void Load() override;
 
-    void cmdWylicz();
-    void cmdPobierzIloscdni();
-    void CmdWyliczSrednia();
-    void CmdWstaw();
+    void cmdWylicz_Click();
+    void cmdPobierzIloscdni_Click();
+    void CmdWyliczSrednia_Click();
+    void CmdWstaw_Click();
 
     core::Session& s;
     core::Control MSFlexGrid7{this, "MSFlexGrid7", core::Kind::Grid};
@@ -50,11 +50,11 @@ public:
     core::Control txtSredniadzienna{this, "txtSredniadzienna", core::Kind::TextBox};
     core::Control LbiloscMiesiecy{this, "LbiloscMiesiecy", core::Kind::Label};
     core::Control Label1{this, "Label1", core::Kind::Label, "* Płaca bez stażowego, wiejskiego ,mieszkaniowego"};
-    core::Control cmdWylicz_{this, "cmdWylicz", core::Kind::CommandButton, "&Pobranie danych z kartotek"};
-    core::Control cmdPobierzIloscdni_{this, "cmdPobierzIloscdni", core::Kind::CommandButton,
+    core::Control cmdWylicz{this, "cmdWylicz", core::Kind::CommandButton, "&Pobranie danych z kartotek"};
+    core::Control cmdPobierzIloscdni{this, "cmdPobierzIloscdni", core::Kind::CommandButton,
                                       "Pobierz &Ilosć dni  w miesiacach"};
-    core::Control CmdWyliczSrednia_{this, "CmdWyliczSrednia", core::Kind::CommandButton, "&Wylicz"};
-    core::Control CmdWstaw_{this, "CmdWstaw", core::Kind::CommandButton, "Ws&taw"};
+    core::Control CmdWyliczSrednia{this, "CmdWyliczSrednia", core::Kind::CommandButton, "&Wylicz"};
+    core::Control CmdWstaw{this, "CmdWstaw", core::Kind::CommandButton, "Ws&taw"};
     core::Control Command1{this, "Command1", core::Kind::CommandButton, "&Koniec"};
 
 private:
@@ -63,7 +63,7 @@ private:
     void srednia(float netto, int miesiecy);
     double sumaSkladek() const;
 
-    core::Control* cel_;
+    core::Control* celSredniej;
 };
 
 }  // namespace leave

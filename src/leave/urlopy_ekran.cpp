@@ -42,12 +42,12 @@ UrlopyScreen::UrlopyScreen(core::Dialogs& d, core::Session& session)
     Label1.in("fraStawka").at(2);
     MSFlexGrid1.at(1, 0, 3).width(176);  // every column without scrolling
     MSFlexGrid1.Mono = true;
-    CmdWyliczkwoteUrlopu_.at(2, 0);
-    cmdWstaw_.at(2, 1);
-    cmdWprowadzUrlopyDoCzasu_.at(2, 2);
-    CmdZmiany_.at(3, 0);
-    cmdDrukujWykaz_.at(3, 1);
-    CmdKoniec_.at(3, 2);
+    CmdWyliczkwoteUrlopu.at(2, 0);
+    cmdWstaw.at(2, 1);
+    cmdWprowadzUrlopyDoCzasu.at(2, 2);
+    CmdZmiany.at(3, 0);
+    cmdDrukujWykaz.at(3, 1);
+    CmdKoniec.at(3, 2);
     MSFlexGrid1.setGrid(kWierszRazemU + 1, KolU::Count);
     MSFlexGrid1.ColWidth.assign(KolU::Count, 2);
     MSFlexGrid1.ColWidth[0] = 13;
@@ -56,20 +56,20 @@ UrlopyScreen::UrlopyScreen(core::Dialogs& d, core::Session& session)
     MSFlexGrid1.ColWidth[KolU::Kwota] = 7;
     MSFlexGrid1.ColWidth[KolU::IlGodz] = 5;
     MSFlexGrid1.DblClick = [this] { MSFlexGrid1_DblClick(); };
-    CmdZmiany_.Click = [this] { CmdZmiany(); };
-    CmdWyliczkwoteUrlopu_.Click = [this] { CmdWyliczkwoteUrlopu(); };
-    cmdWstaw_.Click = [this] { cmdWstaw(); };
-    cmdDrukujWykaz_.Click = [this] { cmdDrukujWykaz(); };
-    cmdWprowadzUrlopyDoCzasu_.Click = [this] { cmdWprowadzUrlopyDoCzasu(); };
-    CmdKoniec_.Click = [this] { Unload(); };
+    CmdZmiany.Click = [this] { CmdZmiany_Click(); };
+    CmdWyliczkwoteUrlopu.Click = [this] { CmdWyliczkwoteUrlopu_Click(); };
+    cmdWstaw.Click = [this] { cmdWstaw_Click(); };
+    cmdDrukujWykaz.Click = [this] { cmdDrukujWykaz_Click(); };
+    cmdWprowadzUrlopyDoCzasu.Click = [this] { cmdWprowadzUrlopyDoCzasu_Click(); };
+    CmdKoniec.Click = [this] { Unload(); };
     txtPrzenies.Change = txtUrlopNalezny.Change = [this] { przelicz(); };
 }
 
 void UrlopyScreen::Load() {
     Caption = "Urlopy " + s.NazwiskoOsoby + " " + s.ImieOsoby;
-    rok_ = core::ValInt(s.rok(), "frmUrlopy");
-    miesiacListy_ = core::ValInt(s.miesiac(), "frmUrlopy");
-    if (miesiacListy_ < 1 || miesiacListy_ > 12) miesiacListy_ = 1;
+    rokUrlopow = core::ValInt(s.rok(), "frmUrlopy");
+    miesiacDatyListy = core::ValInt(s.miesiac(), "frmUrlopy");
+    if (miesiacDatyListy < 1 || miesiacDatyListy > 12) miesiacDatyListy = 1;
     guarded([&] {
         core::ensureFolder(s.payerFolder(), {"Urlopy"});
         const auto plik = U::path(s, s.rok());
@@ -83,14 +83,14 @@ void UrlopyScreen::Load() {
                   "Dopisanie nowego rekordu");
         if (!s.Osoba.Otwarty) personnel::wczytajEkranOsoby(s);
         bloki.push_back(U::nowyBlok(s.NazwiskoOsoby, s.ImieOsoby, s.KluczOsoby,
-                                    personnel::etatTekst(s.Osoba.Etat, s.Osoba.Etat2), rok_));
+                                    personnel::etatTekst(s.Osoba.Etat, s.Osoba.Etat2), rokUrlopow));
         U::writeAll(plik, bloki);
         pokaz(bloki.back());
     });
 }
 
 void UrlopyScreen::pokaz(const U::Blok& b) {
-    blok_ = b;
+    blok = b;
     MSFlexGrid1.setGrid(kWierszRazemU + 1, KolU::Count);
     MSFlexGrid1.TextMatrix(0, 0) = "Miesiac/dzień";
     for (int d = 1; d <= 31; ++d) MSFlexGrid1.TextMatrix(0, d) = std::to_string(d);
@@ -103,13 +103,13 @@ void UrlopyScreen::pokaz(const U::Blok& b) {
         MSFlexGrid1.TextMatrix(m, KolU::Stawka) = b.miesiace[m - 1].s(U::Miesiac::Stawka);
         for (int d = 1; d <= 31; ++d)
             MSFlexGrid1.TextMatrix(m, d) =
-                core::validDate({rok_, m, d}) ? b.dni[m - 1][d - 1].s(U::Dzien::Kod) : std::string("X");
+                core::validDate({rokUrlopow, m, d}) ? b.dni[m - 1][d - 1].s(U::Dzien::Kod) : std::string("X");
     }
     MSFlexGrid1.TextMatrix(kWierszRazemU, 0) = " Razem   ";
     txtPrzenies.Text = b.naglowek.s(U::Naglowek::Przeniesienie);
     txtUrlopNalezny.Text = b.naglowek.s(U::Naglowek::Nalezny);
     setOption(b.naglowek.s(U::Naglowek::Rozliczac) == "1" ? Option1 : Option2);
-    txtUrlopowaStawka.Text = b.miesiace[miesiacListy_ - 1].s(U::Miesiac::Stawka);
+    txtUrlopowaStawka.Text = b.miesiace[miesiacDatyListy - 1].s(U::Miesiac::Stawka);
     przelicz();
 }
 
@@ -117,7 +117,7 @@ void UrlopyScreen::koloruj(int m, int d) {
     core::Control::CellStyle st;
     const std::string& kod = MSFlexGrid1.TextMatrix(m, d);
     if (kod == "X") st.back = kKolorBrakDnia;
-    else if (dzienWolny(rok_, m, d)) st.back = kKolorWolne;
+    else if (dzienWolny(rokUrlopow, m, d)) st.back = kKolorWolne;
     if (kod == "S") st.back = kKolorNiebieski, st.fore = kKolorBialy, st.bold = true;
     if (urlop(kod)) st.back = kKolorUrlop;
     MSFlexGrid1.Style(m, d) = st;
@@ -168,7 +168,7 @@ void UrlopyScreen::MSFlexGrid1_DblClick() {
     przelicz();
 }
 
-void UrlopyScreen::CmdWyliczkwoteUrlopu() {
+void UrlopyScreen::CmdWyliczkwoteUrlopu_Click() {
     guarded([&] {
         if (paycalc::modWyliczeniePlacy(s, ui) == paycalc::Wynik::BrakPlacy) {
             ui.msgBox("Ta osoba nie ma danych płacowych na tej liście: podstawy nie można wyliczyć.", Buttons::OK,
@@ -181,8 +181,8 @@ void UrlopyScreen::CmdWyliczkwoteUrlopu() {
     });
 }
 
-void UrlopyScreen::cmdWstaw() {
-    MSFlexGrid1.TextMatrix(miesiacListy_, KolU::Stawka) = txtUrlopowaStawka.Text;
+void UrlopyScreen::cmdWstaw_Click() {
+    MSFlexGrid1.TextMatrix(miesiacDatyListy, KolU::Stawka) = txtUrlopowaStawka.Text;
     przelicz();
 }
 
@@ -195,7 +195,7 @@ bool UrlopyScreen::wpisyPoprawne() {
     return true;
 }
 
-void UrlopyScreen::CmdZmiany() {
+void UrlopyScreen::CmdZmiany_Click() {
     if (!wpisyPoprawne()) return;
     guarded([&] {
         const auto plik = U::path(s, s.rok());
@@ -203,11 +203,11 @@ void UrlopyScreen::CmdZmiany() {
         U::Blok* b = nullptr;
         for (U::Blok& x : bloki)
             if (!b && x.naglowek.s(U::Naglowek::Identyfikator) == s.KluczOsoby) b = &x;
-        if (!b) b = &bloki.emplace_back(blok_);
+        if (!b) b = &bloki.emplace_back(blok);
         ustawTekst(b->naglowek, U::Naglowek::Przeniesienie, txtPrzenies.Text);
         ustawTekst(b->naglowek, U::Naglowek::Nalezny, txtUrlopNalezny.Text);
         ustawTekst(b->naglowek, U::Naglowek::Rozliczac, Option1.Value ? "1" : "");
-        ustawTekst(b->miesiace[miesiacListy_ - 1], U::Miesiac::Stawka, txtUrlopowaStawka.Text);
+        ustawTekst(b->miesiace[miesiacDatyListy - 1], U::Miesiac::Stawka, txtUrlopowaStawka.Text);
         double godzin = 0;
         for (int m = 1; m <= 12; ++m)
             for (int d = 1; d <= 31; ++d) {
@@ -216,7 +216,7 @@ void UrlopyScreen::CmdZmiany() {
                 if (urlop(kod)) godzin += godziny(kod);
             }
         U::writeAll(plik, bloki);
-        blok_ = *b;
+        blok = *b;
         const double razem = liczba(txtPrzenies.Text) + liczba(txtUrlopNalezny.Text);
         const double zGodzin = core::Fix(godzin / 8);
         txtUrlopRazem.Text = core::numText(razem);
@@ -226,7 +226,7 @@ void UrlopyScreen::CmdZmiany() {
     });
 }
 
-void UrlopyScreen::cmdWprowadzUrlopyDoCzasu() {
+void UrlopyScreen::cmdWprowadzUrlopyDoCzasu_Click() {
     guarded([&] {
         const auto plik = CzasPracy::path(s, s.rok());
         if (!core::fileExists(plik)) {
@@ -250,7 +250,7 @@ void UrlopyScreen::cmdWprowadzUrlopyDoCzasu() {
     });
 }
 
-void UrlopyScreen::cmdDrukujWykaz() {
+void UrlopyScreen::cmdDrukujWykaz_Click() {
     auto linijka = [](char z) {
         std::string t = "|" + core::String(15, z);
         for (int d = 1; d <= 31; ++d) t += "|" + core::String(2, z);
@@ -276,7 +276,7 @@ void UrlopyScreen::cmdDrukujWykaz() {
 
     core::Printer& p = ui.printer();
     p.setFont("Courier New", 8, false);
-    p.print("   Rozliczenie urlopów " + platnik + " za rok " + std::to_string(rok_) + " dla pracownika " + s.KluczOsoby +
+    p.print("   Rozliczenie urlopów " + platnik + " za rok " + std::to_string(rokUrlopow) + " dla pracownika " + s.KluczOsoby +
             " " + s.NazwiskoOsoby + " " + s.ImieOsoby);
     p.print(linijka('='));
     std::string naglowek = "| Miesiąc\\Dzień ";

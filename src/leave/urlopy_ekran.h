@@ -7,7 +7,7 @@
 
 #include "core/form.h"
 #include "core/session.h"
-#include "paycalc/urlopy.h"
+#include "paycalc/urlop_record.h"
 
 namespace leave {
 
@@ -25,13 +25,13 @@ public:
     // The days, hours and amounts of every month and of the year, from the grid.
     void przelicz();
     void MSFlexGrid1_DblClick();
-    void CmdWyliczkwoteUrlopu();
-    void cmdWstaw();
-    void CmdZmiany();
-    void cmdWprowadzUrlopyDoCzasu();
-    void cmdDrukujWykaz();
+    void CmdWyliczkwoteUrlopu_Click();
+    void cmdWstaw_Click();
+    void CmdZmiany_Click();
+    void cmdWprowadzUrlopyDoCzasu_Click();
+    void cmdDrukujWykaz_Click();
 
-    int miesiacListy() const { return miesiacListy_; }
+    int miesiacListy() const { return miesiacDatyListy; }
 
     core::Session& s;
     core::Control fraUrlop{this, "fraUrlop", core::Kind::Frame, "Wymiar urlopu"};
@@ -49,13 +49,13 @@ public:
     core::Control Label1{this, "Label1", core::Kind::Label,
                          "1/30  zasadniczej za każdy dzięń urlopu a stawka wyliczana z brutto bez chorobowego."};
     core::Control MSFlexGrid1{this, "MSFlexGrid1", core::Kind::Grid};
-    core::Control CmdZmiany_{this, "CmdZmiany", core::Kind::CommandButton, "&Zapisz Zmiany"};
-    core::Control CmdWyliczkwoteUrlopu_{this, "CmdWyliczkwoteUrlopu", core::Kind::CommandButton, "&Wylicz podstawę"};
-    core::Control cmdWstaw_{this, "cmdWstaw", core::Kind::CommandButton, "Ws&taw stawkę do urlopu  "};
-    core::Control cmdDrukujWykaz_{this, "cmdDrukujWykaz", core::Kind::CommandButton, "&Drukuj wykaz roczny"};
-    core::Control cmdWprowadzUrlopyDoCzasu_{this, "cmdWprowadzUrlopyDoCzasu", core::Kind::CommandButton,
+    core::Control CmdZmiany{this, "CmdZmiany", core::Kind::CommandButton, "&Zapisz Zmiany"};
+    core::Control CmdWyliczkwoteUrlopu{this, "CmdWyliczkwoteUrlopu", core::Kind::CommandButton, "&Wylicz podstawę"};
+    core::Control cmdWstaw{this, "cmdWstaw", core::Kind::CommandButton, "Ws&taw stawkę do urlopu  "};
+    core::Control cmdDrukujWykaz{this, "cmdDrukujWykaz", core::Kind::CommandButton, "&Drukuj wykaz roczny"};
+    core::Control cmdWprowadzUrlopyDoCzasu{this, "cmdWprowadzUrlopyDoCzasu", core::Kind::CommandButton,
                                             "Wprowadź &Urlopy do rozliczenia czasu pracy"};
-    core::Control CmdKoniec_{this, "CmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control CmdKoniec{this, "CmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void pokaz(const paycalc::Urlop::Blok& b);
@@ -63,9 +63,9 @@ private:
     void gornePola(double dniRoku);
     bool wpisyPoprawne();
 
-    int rok_ = 0;
-    int miesiacListy_ = 1;
-    paycalc::Urlop::Blok blok_;
+    int rokUrlopow = 0;
+    int miesiacDatyListy = 1;
+    paycalc::Urlop::Blok blok;
 };
 
 }  // namespace leave

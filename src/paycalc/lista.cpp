@@ -76,17 +76,17 @@ ListaScreen::ListaScreen(core::Dialogs& ui, core::Session& session)
     lstlista.Width = 86;
     lstlista.ToolTipText = "Kliknij osobę, aby ją wybrać";
     fraPolecenia.at(2, 3);
-    core::Control* przyciski[] = {&cmdDodajOsobe_, &cmdUsun_,        &cmdWybrane_,    &cmdSortujZbior_,
-                                  &cmdKartoteka_,  &CmdZerowanie_,   &CmdSol1_,       &cmdDrukListy_,
-                                  &cmdPodglad_,    &CmdPaski_,       &CmdDruZasilkow_, &koniecH_};
+    core::Control* przyciski[] = {&cmdDodajOsobe, &cmdUsun,        &cmdWybrane,    &cmdSortujZbior,
+                                  &cmdKartoteka,  &CmdZerowanie,   &CmdSol1,       &cmdDrukListy,
+                                  &cmdPodglad,    &CmdPaski,       &CmdDruZasilkow, &koniecH};
     for (int i = 0; i < static_cast<int>(std::size(przyciski)); ++i) przyciski[i]->in("fraPolecenia").at(i, 0);
-    cmdKartoteka_.tip("Wykonuje kartotekę z aktualnego miesiąca");
-    CmdZerowanie_.tip("Odliczenie wypłaconych rat z kas i ulg , zerowanie chorobowych i suma zarobków");
-    CmdSol1_.tip("Usuwa podwójne i zbędne wpisy w bazie płacowej informuje o braku zbioru płac");
-    cmdDodajOsobe_.tip("Dopisuje nową osobę do listy");
-    cmdUsun_.tip("Usuwa wybraną osobę z kadr i, na życzenie, z bazy płacowej");
-    cmdWybrane_.tip("Dane kadrowe wybranej osoby");
-    cmdSortujZbior_.tip("Kolejność osób na liście");
+    cmdKartoteka.tip("Wykonuje kartotekę z aktualnego miesiąca");
+    CmdZerowanie.tip("Odliczenie wypłaconych rat z kas i ulg , zerowanie chorobowych i suma zarobków");
+    CmdSol1.tip("Usuwa podwójne i zbędne wpisy w bazie płacowej informuje o braku zbioru płac");
+    cmdDodajOsobe.tip("Dopisuje nową osobę do listy");
+    cmdUsun.tip("Usuwa wybraną osobę z kadr i, na życzenie, z bazy płacowej");
+    cmdWybrane.tip("Dane kadrowe wybranej osoby");
+    cmdSortujZbior.tip("Kolejność osób na liście");
 
     TabStrip1.at(3, 0, 4);
     TabStrip1.List = {"Godziny nadliczbowe", "Dodatkowe", "Trzynastka", "Jubileusze", "Świadczenia urlopowe"};
@@ -103,20 +103,20 @@ ListaScreen::ListaScreen(core::Dialogs& ui, core::Session& session)
 
     lstlista.Click = [this] { lstlista_Click(); };
     TabStrip1.Click = [this] { TabStrip1_Click(); };
-    cmdDodajOsobe_.Click = [this] { cmdDodajOsobe(); };
-    cmdUsun_.Click = [this] { cmdUsu(); };
-    cmdWybrane_.Click = [this] { cmdWybrane(); };
-    lstlista.DblClick = [this] { cmdWybrane(); };
-    cmdSortujZbior_.Click = [this] { cmdSortujZbior(); };
-    cmdKartoteka_.Click = [this] { cmdKartoteka(); };
-    cmdWyliczPodstawe_.Click = [this] { cmdWyliczPodstawe(); };
-    CmdZerowanie_.Click = [this] { CmdZerowanie(); };
-    CmdSol1_.Click = [this] { CmdSol1(); };
-    cmdDrukListy_.Click = [this] { drukuj("cmdDrukListy"); };
-    cmdPodglad_.Click = [this] { drukuj(kEkranPodgladu); };
-    CmdPaski_.Click = [this] { drukuj("CmdPaski"); };
-    CmdDruZasilkow_.Click = [this] { drukuj("CmdDruZasilkow"); };
-    koniecH_.Click = [this] { koniecH(); };
+    cmdDodajOsobe.Click = [this] { cmdDodajOsobe_Click(); };
+    cmdUsun.Click = [this] { cmdUsu(); };
+    cmdWybrane.Click = [this] { cmdWybrane_Click(); };
+    lstlista.DblClick = [this] { cmdWybrane_Click(); };
+    cmdSortujZbior.Click = [this] { cmdSortujZbior_Click(); };
+    cmdKartoteka.Click = [this] { cmdKartoteka_Click(); };
+    cmdWyliczPodstawe.Click = [this] { cmdWyliczPodstawe_Click(); };
+    CmdZerowanie.Click = [this] { CmdZerowanie_Click(); };
+    CmdSol1.Click = [this] { CmdSol1_Click(); };
+    cmdDrukListy.Click = [this] { drukuj("cmdDrukListy"); };
+    cmdPodglad.Click = [this] { drukuj(kEkranPodgladu); };
+    CmdPaski.Click = [this] { drukuj("CmdPaski"); };
+    CmdDruZasilkow.Click = [this] { drukuj("CmdDruZasilkow"); };
+    koniecH.Click = [this] { koniecH_Click(); };
 }
 
 core::Control& ListaScreen::ramka(int tab) {
@@ -164,16 +164,16 @@ void ListaScreen::Load() {
 }
 
 void ListaScreen::ustawPrzyciski() {
-    cmdDodajOsobe_.Enabled = ui.canOpen(kEkranOsoby);
-    cmdWybrane_.Enabled = ui.canOpen(kEkranOsoby);
-    cmdSortujZbior_.Enabled = ui.canOpen(kEkranSortowania);
-    cmdDrukListy_.Enabled = ui.canOpen("cmdDrukListy");
-    cmdPodglad_.Enabled = ui.canOpen(kEkranPodgladu);
-    CmdPaski_.Enabled = ui.canOpen("CmdPaski");
-    CmdDruZasilkow_.Enabled = ui.canOpen("CmdDruZasilkow");
+    cmdDodajOsobe.Enabled = ui.canOpen(kEkranOsoby);
+    cmdWybrane.Enabled = ui.canOpen(kEkranOsoby);
+    cmdSortujZbior.Enabled = ui.canOpen(kEkranSortowania);
+    cmdDrukListy.Enabled = ui.canOpen("cmdDrukListy");
+    cmdPodglad.Enabled = ui.canOpen(kEkranPodgladu);
+    CmdPaski.Enabled = ui.canOpen("CmdPaski");
+    CmdDruZasilkow.Enabled = ui.canOpen("CmdDruZasilkow");
     const char* brak = "Ten ekran nie jest jeszcze dostępny w tej wersji programu";
-    for (core::Control* c : {&cmdDodajOsobe_, &cmdWybrane_, &cmdSortujZbior_, &cmdDrukListy_, &cmdPodglad_, &CmdPaski_,
-                             &CmdDruZasilkow_})
+    for (core::Control* c : {&cmdDodajOsobe, &cmdWybrane, &cmdSortujZbior, &cmdDrukListy, &cmdPodglad, &CmdPaski,
+                             &CmdDruZasilkow})
         if (!c->Enabled) c->ToolTipText = brak;
 }
 
@@ -227,7 +227,7 @@ void ListaScreen::TabStrip1_Click() {
     pokazRekord(tab);
 }
 
-void ListaScreen::cmdDodajOsobe() {
+void ListaScreen::cmdDodajOsobe_Click() {
     s.NowyZapis = "N";
     s.NazwiskoOsoby = "Nowe";
     s.ImieOsoby = "Nowe";
@@ -245,7 +245,7 @@ void ListaScreen::cmdUsu() {
     paycalc::cmdUsu(s, ui);
 }
 
-void ListaScreen::cmdWybrane() {
+void ListaScreen::cmdWybrane_Click() {
     if (!wybrana()) {
         ui.msgBox("Najpierw wybierz osobę z listy.", Buttons::OK, Icon::Exclamation, "Pokaż wybrane");
         return;
@@ -253,7 +253,7 @@ void ListaScreen::cmdWybrane() {
     ui.open(kEkranOsoby, s);
 }
 
-void ListaScreen::cmdSortujZbior() { ui.open(kEkranSortowania, s); }
+void ListaScreen::cmdSortujZbior_Click() { ui.open(kEkranSortowania, s); }
 
 void ListaScreen::drukuj(const std::string& ekran) { ui.open(ekran, s); }
 
@@ -278,13 +278,13 @@ Postep ListaScreen::postep() {
     return p;
 }
 
-void ListaScreen::cmdKartoteka() {
+void ListaScreen::cmdKartoteka_Click() {
     polecenia(false);
     guarded([&] { paycalc::cmdKartoteka(s, ui, postep()); });
     polecenia(true);
 }
 
-void ListaScreen::cmdWyliczPodstawe() {
+void ListaScreen::cmdWyliczPodstawe_Click() {
     if (!wybrana()) {
         ui.msgBox("No wybierz nazwisko, a dopiero potem Wylicz !", Buttons::OK, Icon::Exclamation);
         return;
@@ -293,13 +293,13 @@ void ListaScreen::cmdWyliczPodstawe() {
     if (core::Control* c = pole(3, Dodatkowy::Podstawa)) c->Text = core::numText(podstawa);
 }
 
-void ListaScreen::CmdZerowanie() {
+void ListaScreen::CmdZerowanie_Click() {
     polecenia(false);
     guarded([&] { paycalc::cmdZerowanie(s, ui, postep()); });
     polecenia(true);
 }
 
-void ListaScreen::CmdSol1() {
+void ListaScreen::CmdSol1_Click() {
     polecenia(false);
     guarded([&] {
         lbUwagi.Caption.clear();

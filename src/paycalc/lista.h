@@ -33,17 +33,17 @@ public:
 
     void lstlista_Click();
     void TabStrip1_Click();
-    void cmdDodajOsobe();
+    void cmdDodajOsobe_Click();
     void cmdUsu();
-    void cmdWybrane();
-    void cmdSortujZbior();
-    void cmdKartoteka();
-    void cmdWyliczPodstawe();
-    void CmdZerowanie();
-    void CmdSol1();
+    void cmdWybrane_Click();
+    void cmdSortujZbior_Click();
+    void cmdKartoteka_Click();
+    void cmdWyliczPodstawe_Click();
+    void CmdZerowanie_Click();
+    void CmdSol1_Click();
     // The printing commands open the screens of the printing by their names.
     void drukuj(const std::string& ekran);
-    void koniecH() { Unload(); }
+    void koniecH_Click() { Unload(); }
 
     // The supplementary runs of the month, each on its tab's boxes.
     void CmdWyliczG() { wylicz(1); }
@@ -61,7 +61,7 @@ public:
     // The control of the screen named `nazwa`; Error 9 when there is none.
     core::Control& kontrolka(const std::string& nazwa);
     // The kind of addition chosen on the additions' tab, 1 to 7.
-    int wybranyDodatek() const { return dodatek_; }
+    int wybranyDodatek() const { return nrDodatku; }
 
     // The kind of the tab `tab` (1 to 5).
     static Dodatkowy::Rodzaj rodzajZakladki(int tab);
@@ -86,18 +86,18 @@ public:
                           "Nr.   Nazwisko                                         Imie           "};
     core::Control lstlista{this, "lstlista", core::Kind::ListBox};
     core::Control fraPolecenia{this, "fraPolecenia", core::Kind::Frame, "Polecenia"};
-    core::Control cmdDodajOsobe_{this, "cmdDodajOsobe", core::Kind::CommandButton, "Dodaj &Osobę"};
-    core::Control cmdUsun_{this, "cmdUsuń", core::Kind::CommandButton, "&Usuń osobę"};
-    core::Control cmdWybrane_{this, "cmdWybrane", core::Kind::CommandButton, "Pokaż &Wybrane"};
-    core::Control cmdSortujZbior_{this, "cmdSortujZbior", core::Kind::CommandButton, "&Sortuj zbiór"};
-    core::Control cmdKartoteka_{this, "cmdKartoteka", core::Kind::CommandButton, "Utwórz kar&Totekę"};
-    core::Control cmdDrukListy_{this, "cmdDrukListy", core::Kind::CommandButton, "&Druk listy płac"};
-    core::Control cmdPodglad_{this, "cmdPodglad", core::Kind::CommandButton, "&Podglad listy"};
-    core::Control CmdPaski_{this, "CmdPaski", core::Kind::CommandButton, "p&Aski"};
-    core::Control CmdDruZasilkow_{this, "CmdDruZasilkow", core::Kind::CommandButton, "Druk&ChrobZUS"};
-    core::Control CmdZerowanie_{this, "CmdZerowanie", core::Kind::CommandButton, "&Zerowanie"};
-    core::Control CmdSol1_{this, "CmdSol1", core::Kind::CommandButton, "Kalibracja &Bazy(np Po zmianie nazwiska)"};
-    core::Control koniecH_{this, "koniecH", core::Kind::CommandButton, "  &Koniec"};
+    core::Control cmdDodajOsobe{this, "cmdDodajOsobe", core::Kind::CommandButton, "Dodaj &Osobę"};
+    core::Control cmdUsun{this, "cmdUsuń", core::Kind::CommandButton, "&Usuń osobę"};
+    core::Control cmdWybrane{this, "cmdWybrane", core::Kind::CommandButton, "Pokaż &Wybrane"};
+    core::Control cmdSortujZbior{this, "cmdSortujZbior", core::Kind::CommandButton, "&Sortuj zbiór"};
+    core::Control cmdKartoteka{this, "cmdKartoteka", core::Kind::CommandButton, "Utwórz kar&Totekę"};
+    core::Control cmdDrukListy{this, "cmdDrukListy", core::Kind::CommandButton, "&Druk listy płac"};
+    core::Control cmdPodglad{this, "cmdPodglad", core::Kind::CommandButton, "&Podglad listy"};
+    core::Control CmdPaski{this, "CmdPaski", core::Kind::CommandButton, "p&Aski"};
+    core::Control CmdDruZasilkow{this, "CmdDruZasilkow", core::Kind::CommandButton, "Druk&ChrobZUS"};
+    core::Control CmdZerowanie{this, "CmdZerowanie", core::Kind::CommandButton, "&Zerowanie"};
+    core::Control CmdSol1{this, "CmdSol1", core::Kind::CommandButton, "Kalibracja &Bazy(np Po zmianie nazwiska)"};
+    core::Control koniecH{this, "koniecH", core::Kind::CommandButton, "  &Koniec"};
     core::Control TabStrip1{this, "TabStrip1", core::Kind::TabStrip};
     core::Control Frame1{this, "Frame1", core::Kind::Frame, "Godziny Nadliczbowe"};
     core::Control Frame2{this, "Frame2", core::Kind::Frame, "Dodatkowe"};
@@ -111,7 +111,7 @@ public:
     core::Control lbNazwiskoImie5{this, "lbNazwiskoImie5", core::Kind::Label};
     // The thirteenth pay's tab: the year of the base and the base of the year.
     core::Control txtRokDoPodstawy{this, "txtRokDoPodstawy", core::Kind::TextBox};
-    core::Control cmdWyliczPodstawe_{this, "cmdWyliczPodstawe", core::Kind::CommandButton, "Wylicz &podstawę"};
+    core::Control cmdWyliczPodstawe{this, "cmdWyliczPodstawe", core::Kind::CommandButton, "Wylicz &podstawę"};
     core::Control lbUwagaJ{this, "lbUwagaJ", core::Kind::Label,
                            "Nagroda Jubileuszowa  ( tylko podatek , nie oskładkowane)"};
     core::Control lbInfo{this, "lbInfo", core::Kind::Label};
@@ -140,12 +140,12 @@ private:
     void pokazFlagi();
 
     // The controls of each tab's frame bound to the fields of the tab's file.
-    std::vector<std::unique_ptr<core::FieldBoxes>> pola_;
+    std::vector<std::unique_ptr<core::FieldBoxes>> pola;
     // The other controls of the tabs (switches, commands, results), found by their names.
-    std::vector<std::unique_ptr<core::Control>> wlasne_;
+    std::vector<std::unique_ptr<core::Control>> wlasne;
     // The additions' switches of the seven kinds (see Dodatki::Flagi) and the chosen kind.
-    std::array<std::string, 7> flagi_;
-    int dodatek_ = 1;
+    std::array<std::string, 7> flagi;
+    int nrDodatku = 1;
 };
 
 }  // namespace paycalc

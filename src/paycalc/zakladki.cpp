@@ -136,22 +136,22 @@ Control& ListaScreen::kontrolka(const std::string& nazwa) {
 }
 
 Control* ListaScreen::pole(int tab, int field) {
-    core::FieldBoxes& p = *pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)];
+    core::FieldBoxes& p = *pola[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)];
     return p.has(field) ? &p[field] : nullptr;
 }
 
 void ListaScreen::zbudujRamki() {
     auto nowa = [this](const std::string& nazwa, Kind k, const std::string& caption, const std::string& frame) -> Control& {
-        wlasne_.push_back(std::make_unique<Control>(this, nazwa, k, caption));
-        wlasne_.back()->in(frame);
-        return *wlasne_.back();
+        wlasne.push_back(std::make_unique<Control>(this, nazwa, k, caption));
+        wlasne.back()->in(frame);
+        return *wlasne.back();
     };
     Control* nazwiska[] = {&lbNazwiskoImie1, &lbNazwiskoImie2, &lbNazwiskoImie3, &lbNazwiskoImie4, &lbNazwiskoImie5};
     for (int t = 1; t <= 5; ++t) {
         const std::string frame = ramka(t).Name;
         const Zakladka& z = kZakladki[t - 1];
         nazwiska[t - 1]->in(frame).at(0, 0, 4);
-        pola_.push_back(std::make_unique<core::FieldBoxes>(*this, kPola[t - 1]));
+        pola.push_back(std::make_unique<core::FieldBoxes>(*this, kPola[t - 1]));
         // The results, four to a row.
         int i = 0;
         for (const PoleWyniku& w : kWyniki) {
@@ -196,17 +196,17 @@ void ListaScreen::zbudujRamki() {
     kontrolka("OpcjaRORD").at(6, 3);
     lbInfo.in("Frame2").at(13, 0, 4);
     txtRokDoPodstawy.ToolTipText.clear();
-    flagi_ = {};
+    flagi = {};
     pokazFlagi();
     // The thirteenth pay.
     nowa("txtWskaznik", Kind::TextBox, {}, "Frame3").at(1, 1).label("Wskaźnik %").width(6).ToolTipText =
         "Procent podstawy (puste = wskaźnik trzynastki ze stawek roku)";
     kontrolka("TxtPotracenieT").at(1, 3);
-    (*pola_[2])[KwotaBrutto].Locked = true;
+    (*pola[2])[KwotaBrutto].Locked = true;
     txtRokDoPodstawy.in("Frame3").at(2, 0).label("Rok do podstawy").width(6);
     txtRokDoPodstawy.ToolTipText = "Rok, z którego liczy się podstawę (puste = rok daty listy)";
-    cmdWyliczPodstawe_.in("Frame3").at(2, 1);
-    cmdWyliczPodstawe_.ToolTipText =
+    cmdWyliczPodstawe.in("Frame3").at(2, 1);
+    cmdWyliczPodstawe.ToolTipText =
         "Podstawa składek wybranej osoby w roku: kartoteki miesięcy i listy dodatkowe (bez trzynastki)";
     kontrolka("OpcjaRORT").at(2, 2);
     // Jubilee awards and the holiday benefit.
@@ -216,7 +216,7 @@ void ListaScreen::zbudujRamki() {
 }
 
 void ListaScreen::wyczysc(int tab) {
-    pola_[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)]->clear();
+    pola[static_cast<std::size_t>(std::clamp(tab, 1, 5) - 1)]->clear();
     const Zakladka& z = kZakladki[tab - 1];
     for (const PoleWyniku& w : kWyniki)
         if (Control* c = find(nazwaWyniku(w, tab))) c->Caption.clear();
@@ -226,7 +226,7 @@ void ListaScreen::wyczysc(int tab) {
     if (tab == 2) {
         for (const char* n : {"lbPodstawaListyD", "LbstEmerD", "lbstRentD"}) kontrolka(n).Caption.clear();
         lbInfo.Caption.clear();
-        flagi_ = {};
+        flagi = {};
         pokazFlagi();
     }
     if (tab == 3) kontrolka("txtWskaznik").Text = core::numText(s.stawki.Trzynastka);
@@ -239,13 +239,13 @@ void ListaScreen::pokazRekord(int tab) {
     if (!core::fileExists(file)) return;
     for (const Record& r : Dodatkowy::readAll(file)) {
         if (r.s(Klucz) != s.KluczOsoby) continue;
-        pola_[static_cast<std::size_t>(tab - 1)]->fill(r);
+        pola[static_cast<std::size_t>(tab - 1)]->fill(r);
         for (const PoleWyniku& w : kWyniki)
             if (Control* c = find(nazwaWyniku(w, tab)); c && w.pole) c->Caption = r.s(w.pole);
         kontrolka(kZakladki[tab - 1].ror).Value = r.s(OpcjaROR) == "1" ? 1 : 0;
         if (r.f(RazemKwota) != 0) pokazRozliczenie(tab, zRekordu(rodzajZakladki(tab), r, s.stawki));
         if (tab == 2) {
-            for (int i = 0; i < 7; ++i) flagi_[i] = r.s(Il1 + i);
+            for (int i = 0; i < 7; ++i) flagi[i] = r.s(Il1 + i);
             pokazFlagi();
         }
         return;
@@ -259,24 +259,24 @@ void ListaScreen::podpowiedzNadgodzin() {
 }
 
 void ListaScreen::optD_Click(int i) {
-    dodatek_ = std::clamp(i, 1, 7);
-    setOption(kontrolka(kOpcjeD[dodatek_ - 1]));
+    nrDodatku = std::clamp(i, 1, 7);
+    setOption(kontrolka(kOpcjeD[nrDodatku - 1]));
     pokazFlagi();
 }
 
 void ListaScreen::pokazFlagi() {
-    std::string f = flagi_[dodatek_ - 1];
-    if (f.empty()) f = domyslneFlagi(dodatek_ - 1);
+    std::string f = flagi[nrDodatku - 1];
+    if (f.empty()) f = domyslneFlagi(nrDodatku - 1);
     kontrolka("ChkSkladkiZUSD").Value = f.size() > 1 && f[1] == '1' ? 0 : 1;
     kontrolka("ChkNFZD").Value = f.size() > 2 && f[2] == '1' ? 0 : 1;
 }
 
 void ListaScreen::ChkD_Click() {
-    std::string f = flagi_[dodatek_ - 1];
-    if (f.size() < 3) f = domyslneFlagi(dodatek_ - 1);
+    std::string f = flagi[nrDodatku - 1];
+    if (f.size() < 3) f = domyslneFlagi(nrDodatku - 1);
     f[1] = kontrolka("ChkSkladkiZUSD").Value == 1 ? '0' : '1';
     f[2] = kontrolka("ChkNFZD").Value == 1 ? '0' : '1';
-    flagi_[dodatek_ - 1] = f;
+    flagi[nrDodatku - 1] = f;
 }
 
 void ListaScreen::pokazRozliczenie(int tab, const Rozliczenie& r) {
@@ -297,7 +297,7 @@ void ListaScreen::wylicz(int tab) {
     }
     const bool ror = kontrolka(z.ror).Value == 1;
     const std::string potracenie = z.potracenie ? kontrolka(z.potracenie).Text : std::string();
-    core::FieldBoxes& p = *pola_[static_cast<std::size_t>(tab - 1)];
+    core::FieldBoxes& p = *pola[static_cast<std::size_t>(tab - 1)];
     Rozliczenie wynik;
     std::function<void()> pokaz;
     std::function<void(Record&)> licz;
@@ -319,7 +319,7 @@ void ListaScreen::wylicz(int tab) {
         licz = [&](Record& rec) {
             Dodatki we;
             for (int i = 0; i < 7; ++i) we.Kwoty[i] = p[Kw1 + i].Text;
-            for (int i = 0; i < 7; ++i) we.Flagi[i] = flagi_[i];
+            for (int i = 0; i < 7; ++i) we.Flagi[i] = flagi[i];
             we.Wczesniej = p[BruttoOd01].Text;
             we.Potracenie = potracenie;
             we.ZListy = podstawaZListy(s, s.KluczOsoby);

@@ -104,7 +104,7 @@ std::string opisLabel10(const std::string& nip) {
 }
 
 PlacaScreen::PlacaScreen(core::Dialogs& ui, core::Session& session)
-    : Form(ui, "frmPlaca", "Płaca"), s(session), boxes(*this, kBoxes), placa_(Pay::schema()) {
+    : Form(ui, "frmPlaca", "Płaca"), s(session), boxes(*this, kBoxes), rekordPlacy(Pay::schema()) {
     fraSkladniki.at(0, 0).rows(2);
     fraPodatek.at(0, 1);
     fraZatrudnienie.at(0, 2);
@@ -146,25 +146,25 @@ PlacaScreen::PlacaScreen(core::Dialogs& ui, core::Session& session)
     lbBrakDanych.at(2, 0, 3);
     lbBrakDanych.Visible = false;
     lbBrakDanych.Caption = "Ta osoba nie ma jeszcze danych płacowych na tej liście: \"Załóż dane płacowe\" je utworzy.";
-    cmdWpiszDane_.at(3, 0);
-    cmdZapiszZmiany_.at(3, 1);
-    cmdKoniecP_.at(3, 2);
-    cmdWpiszDane_.Enabled = false;
+    cmdWpiszDane.at(3, 0);
+    cmdZapiszZmiany.at(3, 1);
+    cmdKoniecP.at(3, 2);
+    cmdWpiszDane.Enabled = false;
 
     txt(Pay::KosztyUzyskania).Click = [this] { txtKosztyUzyskania_Click(); };
     txt(Pay::KwotaUlgi).Click = [this] { txtKwotaUlgi_Click(); };
     txt(Pay::ZastosStaPOD).Click = [this] { txtZastosStaPOD_Click(); };
     for (int f : kSkladnikiProgu) txt(f).Change = [this] { odswiezProgi(); };
     txt(Pay::BruttoOd01).Change = [this] { odswiezProgi(); };
-    cmdWpiszDane_.Click = [this] { cmdWpiszDane(); };
-    cmdZapiszZmiany_.Click = [this] { cmdZapiszZmiany(); };
-    cmdKoniecP_.Click = [this] { cmdKoniecP(); };
+    cmdWpiszDane.Click = [this] { cmdWpiszDane_Click(); };
+    cmdZapiszZmiany.Click = [this] { cmdZapiszZmiany_Click(); };
+    cmdKoniecP.Click = [this] { cmdKoniecP_Click(); };
     domyslne();
 }
 
 std::string PlacaScreen::grupa() const {
     if (!s.Osoba.Grupa.empty()) return s.Osoba.Grupa;
-    return placa_.s(Pay::Grupa);
+    return rekordPlacy.s(Pay::Grupa);
 }
 
 void PlacaScreen::domyslne() {
@@ -222,7 +222,7 @@ void PlacaScreen::bladOdczytu(const core::Error& e) {
 void PlacaScreen::Load() {
     Caption = core::Trim("Płaca " + s.NazwiskoOsoby + " " + s.ImieOsoby);
     Label10.Caption = opisLabel10(s.Firma.valid() ? s.Firma.s(reference::Firma::NIP) : std::string());
-    znaleziony_ = false;
+    znaleziony = false;
     domyslne();
     try {
         personnel::wczytajEkranOsoby(s);
@@ -231,22 +231,22 @@ void PlacaScreen::Load() {
         std::vector<core::Record> recs = core::fileExists(plik) ? Pay::readAll(plik) : std::vector<core::Record>{};
         for (const core::Record& r : recs) {
             if (kluczOsoby(r) != s.KluczOsoby) continue;
-            placa_ = r;
-            znaleziony_ = true;
+            rekordPlacy = r;
+            znaleziony = true;
             break;
         }
-        if (znaleziony_) wypelnij(placa_);
+        if (znaleziony) wypelnij(rekordPlacy);
     } catch (const core::Error& e) {
         bladOdczytu(e);
     }
-    if (!znaleziony_) {
-        placa_ = core::Record(Pay::schema());
+    if (!znaleziony) {
+        rekordPlacy = core::Record(Pay::schema());
         s.NowyZapis.clear();
         if (!s.Osoba.DataZatrudnienia.empty())
             txt(Pay::DataZatrudnienia).Text = core::Left(s.Osoba.DataZatrudnienia, 10);
     }
-    cmdWpiszDane_.Enabled = !znaleziony_;
-    lbBrakDanych.Visible = !znaleziony_;
+    cmdWpiszDane.Enabled = !znaleziony;
+    lbBrakDanych.Visible = !znaleziony;
     odswiezProgi();
 }
 
@@ -346,7 +346,7 @@ void PlacaScreen::przepisz(core::Record& r) {
     if (!s.Osoba.Grupa.empty() && r.s(Pay::Grupa) != s.Osoba.Grupa) r.set(Pay::Grupa, s.Osoba.Grupa);
 }
 
-void PlacaScreen::cmdWpiszDane() {
+void PlacaScreen::cmdWpiszDane_Click() {
     if (ui.msgBox("Zakładam zbiór płacowy dla wybranej osoby ?", Buttons::OKCancel, Icon::Question,
                   "Brak danych placowych dla tego nazwiska!") != Answer::OK)
         return;
@@ -359,7 +359,7 @@ void PlacaScreen::cmdWpiszDane() {
         for (core::Record& r : recs) {
             if (kluczOsoby(r) != s.KluczOsoby) continue;
             przepisz(r);
-            placa_ = r;
+            rekordPlacy = r;
             dopasowany = true;
         }
         Pay::renumber(recs, Pay::kKoniec);
@@ -372,13 +372,13 @@ void PlacaScreen::cmdWpiszDane() {
             r.set(Pay::Dokument, s.Osoba.Paszport);
             r.set(Pay::Obywatelstwo, obywatelstwo);
             if (!s.Osoba.Grupa.empty()) r.set(Pay::Grupa, s.Osoba.Grupa);
-            placa_ = r;
+            rekordPlacy = r;
             recs.push_back(std::move(r));
         }
         core::writeAll(plik, recs, "Tymcz.dat");
         ui.msgBox(" Zapisano ", Buttons::OK, Icon::Information);
-        znaleziony_ = true;
-        cmdWpiszDane_.Enabled = false;
+        znaleziony = true;
+        cmdWpiszDane.Enabled = false;
         lbBrakDanych.Visible = false;
         if (!dopasowany && s.NowyZapis == "N") Load();
     } catch (const core::Error& e) {
@@ -387,14 +387,14 @@ void PlacaScreen::cmdWpiszDane() {
     odswiezProgi();
 }
 
-void PlacaScreen::cmdZapiszZmiany() {
+void PlacaScreen::cmdZapiszZmiany_Click() {
     normalizuj();
     try {
         Pay::replace(
             Pay::path(s), s.KluczOsoby,
             [&](core::Record& r) {
                 przepisz(r);
-                placa_ = r;
+                rekordPlacy = r;
             },
             "TYMCZ.dta", "<koniec>");
         ui.msgBox("Zmiany wykonane !", Buttons::OK, Icon::Information, "zmiany)");

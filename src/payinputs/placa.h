@@ -28,9 +28,9 @@ class PlacaScreen : public core::Form {
 public:
     PlacaScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void cmdWpiszDane();
-    void cmdZapiszZmiany();
-    void cmdKoniecP() { Unload(); }
+    void cmdWpiszDane_Click();
+    void cmdZapiszZmiany_Click();
+    void cmdKoniecP_Click() { Unload(); }
     // The click defaults.
     void txtKosztyUzyskania_Click();
     void txtKwotaUlgi_Click();
@@ -39,7 +39,7 @@ public:
     // The text box of a field of the pay record.
     core::Control& txt(int field) { return boxes[field]; }
     // Whether a record of the person was found (or made).
-    bool maRekord() const { return znaleziony_; }
+    bool maRekord() const { return znaleziony; }
 
     core::Session& s;
     core::Control fraSkladniki{this, "fraSkladniki", core::Kind::Frame, "Składniki płacy"};
@@ -80,9 +80,9 @@ public:
     core::Control Check6{this, "Check6", core::Kind::CheckBox, "Fundusz Emerytur Pomostowych"};
 
     core::Control lbBrakDanych{this, "lbBrakDanych", core::Kind::Label};
-    core::Control cmdWpiszDane_{this, "cmdWpiszDane", core::Kind::CommandButton, "&Załóż dane płacowe"};
-    core::Control cmdZapiszZmiany_{this, "cmdZapiszZmiany", core::Kind::CommandButton, "&Zapisz zmiany"};
-    core::Control cmdKoniecP_{this, "cmdKoniecP", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdWpiszDane{this, "cmdWpiszDane", core::Kind::CommandButton, "&Załóż dane płacowe"};
+    core::Control cmdZapiszZmiany{this, "cmdZapiszZmiany", core::Kind::CommandButton, "&Zapisz zmiany"};
+    core::Control cmdKoniecP{this, "cmdKoniecP", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void wypelnij(const core::Record& r);
@@ -93,8 +93,8 @@ private:
     std::string grupa() const;
     void bladOdczytu(const core::Error& e);
 
-    core::Record placa_;
-    bool znaleziony_ = false;
+    core::Record rekordPlacy;
+    bool znaleziony = false;
 };
 
 }  // namespace payinputs

@@ -66,12 +66,12 @@ PotraceniaScreen::PotraceniaScreen(core::Dialogs& ui, core::Session& session)
     : Form(ui, "frmPotracenia", "Potracenia ", core::ReportWords::BezNr),
       s(session),
       boxes(*this, kBoxes),
-      placa_(Pay::schema()) {
+      placa(Pay::schema()) {
     frmZFM.at(0, 0);
     frmKZP.at(1, 0);
     fraZwiazki.at(0, 1);
     fraInne.at(1, 1);
-    for (std::size_t i = 0; i < boxes.size(); ++i) boxes.box(i).Change = [this] { przelicz(placa_, false); };
+    for (std::size_t i = 0; i < boxes.size(); ++i) boxes.box(i).Change = [this] { przelicz(placa, false); };
     lbPodstawaDoKZP.in("frmKZP").at(4, 0).label("Podstawa do KZP");
     lbZwiazki.in("fraZwiazki").at(0, 1).label("kwota");
     lbSolid.in("fraZwiazki").at(1, 1).label("kwota");
@@ -81,10 +81,10 @@ PotraceniaScreen::PotraceniaScreen(core::Dialogs& ui, core::Session& session)
         "Ta osoba nie ma jeszcze danych płacowych na tej liście. Załóż je najpierw w oknie płac; "
         "do tego czasu potrąceń nie można zapisać.";
     lbBrakDanych.Visible = false;
-    cmdZapisz_.at(4, 0);
-    cmdKoniec_.at(4, 1);
-    cmdZapisz_.Click = [this] { cmdZapisz(); };
-    cmdKoniec_.Click = [this] { cmdKoniec(); };
+    cmdZapisz.at(4, 0);
+    cmdKoniec.at(4, 1);
+    cmdZapisz.Click = [this] { cmdZapisz_Click(); };
+    cmdKoniec.Click = [this] { cmdKoniec_Click(); };
 
     const bool odBazy = odPodstawy(s.SkrotPlatnika);
     const std::string zwiazekTip = std::string("Kwota składki w zł albo, poniżej 1, procent ") +
@@ -129,21 +129,21 @@ void PotraceniaScreen::przelicz(const core::Record& pay, bool strict) {
 
 void PotraceniaScreen::dlaBrakuDanych(bool found) {
     lbBrakDanych.Visible = !found;
-    cmdZapisz_.Enabled = found;
+    cmdZapisz.Enabled = found;
 }
 
 void PotraceniaScreen::Load() {
     Caption = "Potracenia " + s.NazwiskoOsoby + " " + s.ImieOsoby;
     auto found = Pay::openForPerson(s, *this, "Zakładanie nowego zbioru płacowego !");
     if (found) {
-        placa_ = *found;
-        boxes.fill(placa_);
+        placa = *found;
+        boxes.fill(placa);
     }
-    guarded([&] { przelicz(placa_, false); });
+    guarded([&] { przelicz(placa, false); });
     dlaBrakuDanych(found.has_value());
 }
 
-void PotraceniaScreen::cmdZapisz() {
+void PotraceniaScreen::cmdZapisz_Click() {
     guarded([&] {
         // Every value is checked before the file is touched: a box that holds no number stops
         // the save with the file as it was.
@@ -167,7 +167,7 @@ void PotraceniaScreen::cmdZapisz() {
                     else
                         r.set(field, value);
                 }
-                placa_ = r;
+                placa = r;
             },
             "TYMCZ.dta");
         if (matched > 0) ui.msgBox(" Zapisano ", Buttons::OK, Icon::Information);

@@ -25,8 +25,8 @@ class PotraceniaScreen : public core::Form {
 public:
     PotraceniaScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void cmdZapisz();
-    void cmdKoniec() { Unload(); }
+    void cmdZapisz_Click();
+    void cmdKoniec_Click() { Unload(); }
 
     // The text box of a field of the pay record.
     core::Control& txt(int field) { return boxes[field]; }
@@ -46,12 +46,12 @@ public:
     core::Control lbSolid{this, "lbSolid", core::Kind::Label};
     core::Control lbRazemPotracenia{this, "lbRazemPotracenia", core::Kind::Label};
     core::Control lbBrakDanych{this, "lbBrakDanych", core::Kind::Label};
-    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz Zmiany"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdZapisz{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz Zmiany"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void dlaBrakuDanych(bool found);
-    core::Record placa_;  // the person's record as read on opening
+    core::Record placa;  // the person's record as read on opening
 };
 
 }  // namespace payinputs

@@ -173,11 +173,11 @@ TaryfikatorScreen::TaryfikatorScreen(core::Dialogs& ui, core::Session& session)
     }
     txtZestaw.at(6, 0).label("Zestaw list:").width(6);
     txtZestaw.Locked = true;
-    CmdZapisz_.at(7, 1);
-    cmdWymienZasadnicza_.at(7, 2, 2);
+    CmdZapisz.at(7, 1);
+    cmdWymienZasadnicza.at(7, 2, 2);
     Command3.at(7, 4);
-    CmdZapisz_.Click = [this] { CmdZapisz(); };
-    cmdWymienZasadnicza_.Click = [this] { cmdWymienZasadnicza(); };
+    CmdZapisz.Click = [this] { CmdZapisz_Click(); };
+    cmdWymienZasadnicza.Click = [this] { cmdWymienZasadnicza_Click(); };
     Command3.Click = [this] { Unload(); };
 }
 
@@ -206,13 +206,13 @@ bool TaryfikatorScreen::komorki(std::array<float, Tabela::kKomorek>& placa) {
     return true;
 }
 
-void TaryfikatorScreen::CmdZapisz() {
+void TaryfikatorScreen::CmdZapisz_Click() {
     std::array<float, Tabela::kKomorek> placa{};
     if (!komorki(placa)) return;
     guarded([&] { Tabela::write(s, placa); });
 }
 
-void TaryfikatorScreen::cmdWymienZasadnicza() {
+void TaryfikatorScreen::cmdWymienZasadnicza_Click() {
     std::array<float, Tabela::kKomorek> placa{};
     if (!komorki(placa)) return;
     guarded([&] { wymienZasadnicza(s, ui, placa); });

@@ -48,8 +48,8 @@ class TaryfikatorScreen : public core::Form {
 public:
     TaryfikatorScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void CmdZapisz();
-    void cmdWymienZasadnicza();
+    void CmdZapisz_Click();
+    void cmdWymienZasadnicza_Click();
 
     core::Session& s;
     core::Control lbStopien{this, "lbStopien", core::Kind::Label, "Stopień awansu zawodowego"};
@@ -57,8 +57,8 @@ public:
     std::vector<std::unique_ptr<core::Control>> txtPlaca;  // txtPlaca(0) .. txtPlaca(15)
     std::vector<std::unique_ptr<core::Control>> naglowki;
     core::Control txtZestaw{this, "txtZestaw", core::Kind::TextBox};
-    core::Control CmdZapisz_{this, "CmdZapisz", core::Kind::CommandButton, "&Zapisz Zmiany"};
-    core::Control cmdWymienZasadnicza_{this, "cmdWymienZasadnicza", core::Kind::CommandButton,
+    core::Control CmdZapisz{this, "CmdZapisz", core::Kind::CommandButton, "&Zapisz Zmiany"};
+    core::Control cmdWymienZasadnicza{this, "cmdWymienZasadnicza", core::Kind::CommandButton,
                                        "&Wprowadź do zbiorów zestawu"};
     core::Control Command3{this, "Command3", core::Kind::CommandButton, "&Koniec"};
 

@@ -40,11 +40,11 @@ ZasilkiScreen::ZasilkiScreen(core::Dialogs& ui, core::Session& session)
         "Ta osoba nie ma jeszcze danych płacowych na tej liście. Załóż je najpierw w oknie płac; "
         "do tego czasu zasiłków nie można zapisać.";
     lbBrakDanych.Visible = false;
-    CmdZapiszZasilki_.at(7, 0);
-    cmdKoniec_.at(7, 2);
+    CmdZapiszZasilki.at(7, 0);
+    cmdKoniec.at(7, 2);
     for (core::Control* c : pola) c->Change = [this] { przelicz(); };
-    CmdZapiszZasilki_.Click = [this] { CmdZapiszZasilki(); };
-    cmdKoniec_.Click = [this] { cmdKoniec(); };
+    CmdZapiszZasilki.Click = [this] { CmdZapiszZasilki_Click(); };
+    cmdKoniec.Click = [this] { cmdKoniec_Click(); };
 }
 
 void ZasilkiScreen::przelicz() {
@@ -61,10 +61,10 @@ void ZasilkiScreen::Load() {
     for (core::Control* c : pola) core::KropkaZamiastPrzecinka(c->Text);
     przelicz();
     lbBrakDanych.Visible = !found;
-    CmdZapiszZasilki_.Enabled = found.has_value();
+    CmdZapiszZasilki.Enabled = found.has_value();
 }
 
-void ZasilkiScreen::CmdZapiszZasilki() {
+void ZasilkiScreen::CmdZapiszZasilki_Click() {
     guarded([&] {
         // Every value is checked before the file is touched.
         double wartosci[6];

@@ -14,8 +14,8 @@ class ZasilkiScreen : public core::Form {
 public:
     ZasilkiScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void CmdZapiszZasilki();
-    void cmdKoniec() { Unload(); }
+    void CmdZapiszZasilki_Click();
+    void cmdKoniec_Click() { Unload(); }
 
     // Shows the sum of the benefits paid: nursing, family and its additions (the childcare
     // base is no payment and stays out).
@@ -39,8 +39,8 @@ public:
     core::Control Label7{this, "Label7", core::Kind::Label, "Razem zasiłki"};
     core::Control lbKwotazasilkow{this, "lbKwotazasilkow", core::Kind::Label};
     core::Control lbBrakDanych{this, "lbBrakDanych", core::Kind::Label};
-    core::Control CmdZapiszZasilki_{this, "CmdZapiszZasilki", core::Kind::CommandButton, "&Zapisz zmiany"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control CmdZapiszZasilki{this, "CmdZapiszZasilki", core::Kind::CommandButton, "&Zapisz zmiany"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 };
 
 }  // namespace payinputs

@@ -30,8 +30,8 @@ KadryScreen::KadryScreen(core::Dialogs& ui, core::Session& session)
     fraPlec.at(6, 0, 2);
     optKobieta.in("fraPlec").at(0, 0);
     optMezczyzna.in("fraPlec").at(0, 1);
-    cmdZapisz_.at(7, 0);
-    cmdKoniec_.at(7, 1);
+    cmdZapisz.at(7, 0);
+    cmdKoniec.at(7, 1);
     cboOsoba.Click = [this] { cboOsoba_Click(); };
     optOkreslony.Click = [this] { setOption(optOkreslony); };
     optNieokreslony.Click = [this] {
@@ -40,8 +40,8 @@ KadryScreen::KadryScreen(core::Dialogs& ui, core::Session& session)
     };
     optKobieta.Click = [this] { setOption(optKobieta); };
     optMezczyzna.Click = [this] { setOption(optMezczyzna); };
-    cmdZapisz_.Click = [this] { cmdZapisz(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    cmdZapisz.Click = [this] { cmdZapisz_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
 }
 
 void KadryScreen::Load() {
@@ -80,7 +80,7 @@ void KadryScreen::cboOsoba_Click() {
 void KadryScreen::pokaz() {
     const bool wybrana = !s.KluczOsoby.empty() && !s.NazwaZbioru.empty() && cboOsoba.ListIndex >= 0;
     for (core::Control* c : {&txtZatrudnionyOd, &txtZatrudnionyDo, &optOkreslony, &optNieokreslony, &txtStanowisko,
-                             &optKobieta, &optMezczyzna, &cmdZapisz_})
+                             &optKobieta, &optMezczyzna, &cmdZapisz})
         c->Enabled = wybrana;
     if (!wybrana) {
         lbOsoba.Caption = "Wybierz pracownika z listy.";
@@ -109,7 +109,7 @@ void KadryScreen::pokaz() {
     });
 }
 
-void KadryScreen::cmdZapisz() {
+void KadryScreen::cmdZapisz_Click() {
     if (cboOsoba.ListIndex < 0) {
         ui.msgBox("Wybierz pracownika z listy.", Buttons::OK, Icon::Exclamation, kTytul);
         return;

@@ -15,7 +15,7 @@ public:
     void Load() override;
     // A person chosen in cboOsoba: the person and list become the session's, the record shown.
     void cboOsoba_Click();
-    void cmdZapisz();
+    void cmdZapisz_Click();
 
     core::Session& s;
     core::Control cboOsoba{this, "cboOsoba", core::Kind::ComboBox};
@@ -29,8 +29,8 @@ public:
     core::Control fraPlec{this, "fraPlec", core::Kind::Frame, "Płeć (potrzebna, gdy osoba nie ma numeru PESEL)"};
     core::Control optKobieta{this, "optKobieta", core::Kind::OptionButton, "kobieta"};
     core::Control optMezczyzna{this, "optMezczyzna", core::Kind::OptionButton, "mężczyzna"};
-    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz dane kadrowe"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdZapisz{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz dane kadrowe"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void pokaz();

@@ -85,10 +85,10 @@ Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session) : Form(ui,
     Option1.in("fraStatus").at(0, 0);
     Option2.in("fraStatus").at(0, 1);
 
-    cmdZapiszZmiany_.at(1, 0);
-    cmdZapiszNowaOsobe_.at(1, 0);
+    cmdZapiszZmiany.at(1, 0);
+    cmdZapiszNowaOsobe.at(1, 0);
     CmdKadry.at(1, 1);
-    cmdKoniecP_.at(1, 2);
+    cmdKoniecP.at(1, 2);
 
     txtNazwisko.KeyEnter = [this] { SetFocus(txtImie); };
     txtImie.KeyEnter = [this] { SetFocus(txtPesel); };
@@ -97,23 +97,23 @@ Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session) : Form(ui,
     txtDataUrodzenia.Click = [this] { txtDataUrodzenia_Click(); };
     txtEtat.Change = [this] { odswiezEtat(); };
     txtEtat2.Change = [this] { odswiezEtat(); };
-    cmdZapiszZmiany_.Click = [this] { cmdZapiszZmiany(); };
-    cmdZapiszNowaOsobe_.Click = [this] { cmdZapiszNowaOsobe(); };
-    cmdKoniecP_.Click = [this] { cmdKoniecP(); };
+    cmdZapiszZmiany.Click = [this] { cmdZapiszZmiany_Click(); };
+    cmdZapiszNowaOsobe.Click = [this] { cmdZapiszNowaOsobe_Click(); };
+    cmdKoniecP.Click = [this] { cmdKoniecP_Click(); };
     CmdKadry.Click = [this] { otworz(kEkranKadr); };
     placa.Click = [this] { otworz(kEkranPlacy); };
     potr.Click = [this] { otworz(kEkranPotracen); };
     Zasilki.Click = [this] { otworz(kEkranZasilkow); };
     chorobowe.Click = [this] { otworz(kEkranChorobowego); };
     urlopy.Click = [this] { otworz(kEkranUrlopow); };
-    lista.Click = [this] { cmdKoniecP(); };
+    lista.Click = [this] { cmdKoniecP_Click(); };
     Roczna.Click = [this] { otworz(kEkranKartotekiRocznej); };
     mnuMiesieczne.under("CzasPracy");
     mnuRoczne.under("CzasPracy");
     mnuMiesieczne.Click = [this] { otworz(kEkranCzasuPracy); };
     mnuRoczne.Click = [this] { otworz(kEkranRocznegoCzasuPracy); };
 
-    cmdZapiszNowaOsobe_.Visible = false;
+    cmdZapiszNowaOsobe.Visible = false;
     Option1.Value = 1;
     odswiezMenu();
 }
@@ -194,8 +194,8 @@ void Osoba1Screen::wypelnij(const core::Record& o) {
 }
 
 void Osoba1Screen::trybZmian() {
-    cmdZapiszZmiany_.Visible = true;
-    cmdZapiszNowaOsobe_.Visible = false;
+    cmdZapiszZmiany.Visible = true;
+    cmdZapiszNowaOsobe.Visible = false;
 }
 
 void Osoba1Screen::trybNowej(int numer) {
@@ -210,10 +210,10 @@ void Osoba1Screen::trybNowej(int numer) {
     txtKodUbezpieczenia.Text = s.KodUbezpieczeniaOsoby;
     txtNumerIP.Text = std::to_string(numer);
     setOption(Option1);
-    cmdZapiszZmiany_.Visible = false;
-    cmdZapiszNowaOsobe_.Visible = true;
-    kluczWPliku_.clear();
-    numerWPliku_ = 0;
+    cmdZapiszZmiany.Visible = false;
+    cmdZapiszNowaOsobe.Visible = true;
+    kluczOsobyWPliku.clear();
+    numerWPliku = 0;
     odswiezEtat();
 }
 
@@ -246,7 +246,7 @@ void Osoba1Screen::Load() {
             s.KluczOsoby = "00000000000";
             s.KodUbezpieczeniaOsoby = "";
             wypelnij(r);
-            kluczWPliku_ = kluczOsoby(r);
+            kluczOsobyWPliku = kluczOsoby(r);
             trybZmian();
             utworzony = true;
         });
@@ -266,8 +266,8 @@ void Osoba1Screen::Load() {
             return;
         }
         wypelnij(*znaleziona);
-        kluczWPliku_ = kluczOsoby(*znaleziona);
-        numerWPliku_ = 0;
+        kluczOsobyWPliku = kluczOsoby(*znaleziona);
+        numerWPliku = 0;
         trybZmian();
         if (znaleziona->s(Osoba::Nazwisko).empty() && znaleziona->s(Osoba::Pesel).empty())
             ui.msgBox(" Błędy w bazie - przeprowadź Kalibrowanie Bazy i sortowanie pracownikow po kalibracji",
@@ -363,7 +363,7 @@ void Osoba1Screen::zbuduj(core::Record& r) {
     r.set(Osoba::Koniec, "<koniec>");
 }
 
-void Osoba1Screen::cmdZapiszZmiany() {
+void Osoba1Screen::cmdZapiszZmiany_Click() {
     if (!sprawdz()) return;
     // 1. The citizenship of the person; "0" or nothing is Polish.
     if (!txtObywatelstwo.Text.empty()) s.Osoba.Obywatelstwo = txtObywatelstwo.Text;
@@ -374,10 +374,10 @@ void Osoba1Screen::cmdZapiszZmiany() {
         const fs::path plik = Osoba::path(s);
         std::vector<core::Record> recs = Osoba::readAll(plik);
         for (core::Record& r : recs) {
-            if (kluczOsoby(r) != kluczWPliku_) continue;
-            if (numerWPliku_ != 0 && r.i(Osoba::Numer) != numerWPliku_) continue;
+            if (kluczOsoby(r) != kluczOsobyWPliku) continue;
+            if (numerWPliku != 0 && r.i(Osoba::Numer) != numerWPliku) continue;
             zbuduj(r);
-            kluczWPliku_ = kluczOsoby(r);
+            kluczOsobyWPliku = kluczOsoby(r);
             break;
         }
         core::writeAll(plik, recs, "tymcz.dta");
@@ -385,7 +385,7 @@ void Osoba1Screen::cmdZapiszZmiany() {
     });
 }
 
-void Osoba1Screen::cmdZapiszNowaOsobe() {
+void Osoba1Screen::cmdZapiszNowaOsobe_Click() {
     // 1.
     if (ui.msgBox("Uzupełnij niezbedne dane i Zapisz Zmiany", Buttons::OKCancel, Icon::Question, "Dodaj rekord") !=
         Answer::OK)
@@ -443,8 +443,8 @@ void Osoba1Screen::cmdZapiszNowaOsobe() {
         s.KodUbezpieczeniaOsoby = core::Trim(txtKodUbezpieczenia.Text);
         s.LiczbaOsob = liczba + 1;
         s.Osoba.Obywatelstwo = obywatelstwo(obyw);
-        kluczWPliku_ = kluczOsoby(r);
-        numerWPliku_ = liczba + 1;
+        kluczOsobyWPliku = kluczOsoby(r);
+        numerWPliku = liczba + 1;
         TxtDataZatrudnienia.Text = dataZatrudnienia(r.s(Osoba::DataZatrudnienia));
         // 9.
         trybZmian();

@@ -27,9 +27,9 @@ public:
     ~Osoba1Screen() override;
 
     void Load() override;
-    void cmdZapiszZmiany();
-    void cmdZapiszNowaOsobe();
-    void cmdKoniecP() { Unload(); }
+    void cmdZapiszZmiany_Click();
+    void cmdZapiszNowaOsobe_Click();
+    void cmdKoniecP_Click() { Unload(); }
     // The postal lookup when the code changes.
     void txtKod_Change();
     // The birth date from the PESEL on a click in the birth date box.
@@ -37,9 +37,9 @@ public:
     // Opens a screen of the person by name, with the person's values in the session.
     void otworz(const std::string& ekran);
     // Whether the screen is adding a new person (cmdZapiszNowaOsobe offered).
-    bool trybNowejOsoby() const { return cmdZapiszNowaOsobe_.Visible; }
+    bool trybNowejOsoby() const { return cmdZapiszNowaOsobe.Visible; }
     // The identifier under which the record on the screen stands in the file.
-    const std::string& kluczWPliku() const { return kluczWPliku_; }
+    const std::string& kluczWPliku() const { return kluczOsobyWPliku; }
 
     core::Session& s;
 
@@ -94,10 +94,10 @@ public:
     core::Control Option1{this, "Option1", core::Kind::OptionButton, "Tak"};
     core::Control Option2{this, "Option2", core::Kind::OptionButton, "Nie"};
 
-    core::Control cmdZapiszZmiany_{this, "cmdZapiszZmiany", core::Kind::CommandButton, "Zapisz zmiany"};
-    core::Control cmdZapiszNowaOsobe_{this, "cmdZapiszNowaOsobe", core::Kind::CommandButton, "&Wpisz dane nowej osoby"};
+    core::Control cmdZapiszZmiany{this, "cmdZapiszZmiany", core::Kind::CommandButton, "Zapisz zmiany"};
+    core::Control cmdZapiszNowaOsobe{this, "cmdZapiszNowaOsobe", core::Kind::CommandButton, "&Wpisz dane nowej osoby"};
     core::Control CmdKadry{this, "CmdKadry", core::Kind::CommandButton, "&Dane kadrowe  -> 2"};
-    core::Control cmdKoniecP_{this, "cmdKoniecP", core::Kind::CommandButton, "Koniec"};
+    core::Control cmdKoniecP{this, "cmdKoniecP", core::Kind::CommandButton, "Koniec"};
 
     // The menu of the person's other screens.
     core::Control placa{this, "placa", core::Kind::Menu, "&Płaca"};
@@ -121,8 +121,8 @@ private:
     bool sprawdz();
     void zbuduj(core::Record& r);
 
-    std::string kluczWPliku_;
-    int numerWPliku_ = 0;  // the number of a person just added (0: the first record of the key)
+    std::string kluczOsobyWPliku;
+    int numerWPliku = 0;  // the number of a person just added (0: the first record of the key)
 };
 
 }  // namespace personnel

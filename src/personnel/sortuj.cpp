@@ -69,15 +69,15 @@ SortujKadroweScreen::SortujKadroweScreen(core::Dialogs& ui, core::Session& sessi
     lbOpis.at(0, 0, 4);
     lbOpis.Caption = "Podwójne kliknięcie w nazwisko pozwala wpisać nowy numer kolejny pracownika.";
     MSFlexGrid7.at(1, 0, 4).width(140);
-    CmdSortujIP_.at(2, 0);
-    CmdSortujwgNazwiska_.at(2, 1);
-    cmdZapiszPosortowane_.at(2, 2);
-    cmdKoniec_.at(2, 3);
-    CmdSortujIP_.Click = [this] { CmdSortujIP(); };
-    CmdSortujwgNazwiska_.Click = [this] { CmdSortujwgNazwiska(); };
+    CmdSortujIP.at(2, 0);
+    CmdSortujwgNazwiska.at(2, 1);
+    cmdZapiszPosortowane.at(2, 2);
+    cmdKoniec.at(2, 3);
+    CmdSortujIP.Click = [this] { CmdSortujIP_Click(); };
+    CmdSortujwgNazwiska.Click = [this] { CmdSortujwgNazwiska_Click(); };
     MSFlexGrid7.DblClick = [this] { MSFlexGrid7_DblClick(); };
-    cmdZapiszPosortowane_.Click = [this] { cmdZapiszPosortowane(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    cmdZapiszPosortowane.Click = [this] { cmdZapiszPosortowane_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
     MSFlexGrid7.setGrid(1, kKolumny);
     for (int c = 0; c < kKolumny; ++c) {
         MSFlexGrid7.TextMatrix(0, c) = kNaglowki[c];
@@ -95,17 +95,17 @@ void SortujKadroweScreen::Load() {
         return;
     }
     guarded([&] {
-        rekordy_ = Osoba::readAll(plik);
-        MSFlexGrid7.setGrid(static_cast<int>(rekordy_.size()) + 1, kKolumny);
+        rekordy = Osoba::readAll(plik);
+        MSFlexGrid7.setGrid(static_cast<int>(rekordy.size()) + 1, kKolumny);
         for (int c = 0; c < kKolumny; ++c) MSFlexGrid7.TextMatrix(0, c) = kNaglowki[c];
-        wiersze_.clear();
-        for (std::size_t i = 0; i < rekordy_.size(); ++i) {
+        wierszeSiatki.clear();
+        for (std::size_t i = 0; i < rekordy.size(); ++i) {
             const int wiersz = static_cast<int>(i) + 1;
-            MSFlexGrid7.TextMatrix(wiersz, kKolNrIdent) = rekordy_[i].s(Osoba::NumerIP);
-            for (int n = Osoba::Nazwisko; n <= Osoba::Numer; ++n) MSFlexGrid7.TextMatrix(wiersz, n - 1) = rekordy_[i].s(n);
-            wiersze_.push_back(i);
+            MSFlexGrid7.TextMatrix(wiersz, kKolNrIdent) = rekordy[i].s(Osoba::NumerIP);
+            for (int n = Osoba::Nazwisko; n <= Osoba::Numer; ++n) MSFlexGrid7.TextMatrix(wiersz, n - 1) = rekordy[i].s(n);
+            wierszeSiatki.push_back(i);
         }
-        if (!rekordy_.empty()) {
+        if (!rekordy.empty()) {
             MSFlexGrid7.Row = 1;
             MSFlexGrid7.Col = kKolNazwisko;
         }
@@ -122,15 +122,15 @@ void SortujKadroweScreen::sortuj(int kolumna) {
     std::vector<std::size_t> wiersze;
     for (int r : kolejnosc) {
         komorki.push_back(g.Cells[r]);
-        wiersze.push_back(wiersze_[static_cast<std::size_t>(r - 1)]);
+        wiersze.push_back(wierszeSiatki[static_cast<std::size_t>(r - 1)]);
     }
     g.Cells = std::move(komorki);
-    wiersze_ = std::move(wiersze);
+    wierszeSiatki = std::move(wiersze);
 }
 
-void SortujKadroweScreen::CmdSortujIP() { sortuj(kKolNumerIP); }
+void SortujKadroweScreen::CmdSortujIP_Click() { sortuj(kKolNumerIP); }
 
-void SortujKadroweScreen::CmdSortujwgNazwiska() { sortuj(kKolNazwisko); }
+void SortujKadroweScreen::CmdSortujwgNazwiska_Click() { sortuj(kKolNazwisko); }
 
 void SortujKadroweScreen::MSFlexGrid7_DblClick() {
     core::Control& g = MSFlexGrid7;
@@ -146,7 +146,7 @@ void SortujKadroweScreen::MSFlexGrid7_DblClick() {
     g.TextMatrix(r, kKolNumerIP) = n;
 }
 
-void SortujKadroweScreen::cmdZapiszPosortowane() {
+void SortujKadroweScreen::cmdZapiszPosortowane_Click() {
     if (ui.msgBox("Czy chcesz zapisać zmiany?", Buttons::YesNo, Icon::Question, "Zapis posortowanego zbioru") !=
         Answer::Yes)
         return;
@@ -154,7 +154,7 @@ void SortujKadroweScreen::cmdZapiszPosortowane() {
         core::Control& g = MSFlexGrid7;
         std::vector<core::Record> wynik;
         for (int r = 1; r < g.Rows; ++r) {
-            core::Record rec = rekordy_[wiersze_[static_cast<std::size_t>(r - 1)]];
+            core::Record rec = rekordy[wierszeSiatki[static_cast<std::size_t>(r - 1)]];
             // The values as the grid holds them; an unchanged value keeps its form in the file.
             for (int n = Osoba::Nazwisko; n < Osoba::Numer; ++n) {
                 const std::string& komorka = g.TextMatrix(r, n - 1);
@@ -168,8 +168,8 @@ void SortujKadroweScreen::cmdZapiszPosortowane() {
         const fs::path plik = Osoba::path(s);
         core::writeAll(plik, wynik, plik.stem().string() + ".tym");
         for (int r = 1; r < g.Rows; ++r) g.TextMatrix(r, Osoba::Numer - 1) = std::to_string(r);
-        rekordy_ = std::move(wynik);
-        for (std::size_t i = 0; i < wiersze_.size(); ++i) wiersze_[i] = i;
+        rekordy = std::move(wynik);
+        for (std::size_t i = 0; i < wierszeSiatki.size(); ++i) wierszeSiatki[i] = i;
     });
 }
 

@@ -19,11 +19,11 @@ class SortujKadroweScreen : public core::Form {
 public:
     SortujKadroweScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void CmdSortujIP();
-    void CmdSortujwgNazwiska();
+    void CmdSortujIP_Click();
+    void CmdSortujwgNazwiska_Click();
     // A double click on the family name: a new running number for the row.
     void MSFlexGrid7_DblClick();
-    void cmdZapiszPosortowane();
+    void cmdZapiszPosortowane_Click();
 
     // Columns of the grid: value 37 in column 0, values 2 to 40 in columns 1 to 39.
     static constexpr int kKolNrIdent = 0;
@@ -34,15 +34,15 @@ public:
     core::Session& s;
     core::Control lbOpis{this, "lbOpis", core::Kind::Label};
     core::Control MSFlexGrid7{this, "MSFlexGrid7", core::Kind::Grid};
-    core::Control CmdSortujIP_{this, "CmdSortujIP", core::Kind::CommandButton, "Sortowanie wg nr &Id"};
-    core::Control CmdSortujwgNazwiska_{this, "CmdSortujwgNazwiska", core::Kind::CommandButton, "&Sortuj wg Nazwiska"};
-    core::Control cmdZapiszPosortowane_{this, "cmdZapiszPosortowane", core::Kind::CommandButton, "&Zapisz zmiany"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control CmdSortujIP{this, "CmdSortujIP", core::Kind::CommandButton, "Sortowanie wg nr &Id"};
+    core::Control CmdSortujwgNazwiska{this, "CmdSortujwgNazwiska", core::Kind::CommandButton, "&Sortuj wg Nazwiska"};
+    core::Control cmdZapiszPosortowane{this, "cmdZapiszPosortowane", core::Kind::CommandButton, "&Zapisz zmiany"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void sortuj(int kolumna);
-    std::vector<core::Record> rekordy_;  // the records of the file
-    std::vector<std::size_t> wiersze_;   // the record shown in each row of the grid (row 1 first)
+    std::vector<core::Record> rekordy;       // the records of the file
+    std::vector<std::size_t> wierszeSiatki;  // the record shown in each row of the grid (row 1 first)
 };
 
 }  // namespace personnel

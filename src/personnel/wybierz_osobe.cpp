@@ -43,17 +43,17 @@ WybierzOsobeScreen::WybierzOsobeScreen(core::Dialogs& ui, core::Session& session
     lstListaOsob.at(2, 0, 2).width(100);
     lstListaOsob.Mono = true;
     lbWybrana.at(3, 0, 2);
-    CmdWybierz_.at(4, 0);
-    cmdKoniec_.at(4, 1);
+    CmdWybierz.at(4, 0);
+    cmdKoniec.at(4, 1);
     lstListaOsob.Click = [this] { lstListaOsob_Click(); };
-    lstListaOsob.DblClick = [this] { CmdWybierz(); };
-    CmdWybierz_.Click = [this] { CmdWybierz(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    lstListaOsob.DblClick = [this] { CmdWybierz_Click(); };
+    CmdWybierz.Click = [this] { CmdWybierz_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
 }
 
 void WybierzOsobeScreen::Load() {
-    CmdWybierz_.Enabled = ui.canOpen(kEkranZaswiadczen);
-    CmdWybierz_.ToolTipText = CmdWybierz_.Enabled ? "" : "Zaświadczenia o zarobkach nie są dostępne w tej wersji programu.";
+    CmdWybierz.Enabled = ui.canOpen(kEkranZaswiadczen);
+    CmdWybierz.ToolTipText = CmdWybierz.Enabled ? "" : "Zaświadczenia o zarobkach nie są dostępne w tej wersji programu.";
     lstListaOsob.Clear();
     guarded([&] {
         int numer = 0;
@@ -85,7 +85,7 @@ void WybierzOsobeScreen::lstListaOsob_Click() {
     lbWybrana.Caption = o.nazwisko + " " + o.imie + "  (" + o.pesel + ")  lista " + o.lista;
 }
 
-void WybierzOsobeScreen::CmdWybierz() {
+void WybierzOsobeScreen::CmdWybierz_Click() {
     if (lstListaOsob.selectedText().empty()) {
         ui.msgBox("Wybierz osobę z listy.", Buttons::OK, Icon::Exclamation, "Wybierz Osobę z listy ");
         return;

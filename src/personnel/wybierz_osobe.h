@@ -30,7 +30,7 @@ public:
     // A click on a line: the person and the list become the session's.
     void lstListaOsob_Click();
     // Opens the earnings certificate of the chosen person.
-    void CmdWybierz();
+    void CmdWybierz_Click();
 
     core::Session& s;
     core::Control lbUwaga{this, "lbUwaga", core::Kind::Label,
@@ -38,8 +38,8 @@ public:
     core::Control lbNaglowek{this, "lbNaglowek", core::Kind::Label};
     core::Control lstListaOsob{this, "lstListaOsob", core::Kind::ListBox};
     core::Control lbWybrana{this, "lbWybrana", core::Kind::Label};
-    core::Control CmdWybierz_{this, "CmdWybierz", core::Kind::CommandButton, "&Zaświadczenia o zarobkach"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control CmdWybierz{this, "CmdWybierz", core::Kind::CommandButton, "&Zaświadczenia o zarobkach"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 };
 
 }  // namespace personnel

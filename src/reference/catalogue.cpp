@@ -92,8 +92,16 @@ std::string badListStem(const std::string& stem) {
 }
 
 bool Instal::wZestawie(const core::Record& line, const std::string& zestaw) {
-    std::string symbol = core::Trim(line.s(Instal::ZestawListy));
-    return !symbol.empty() && core::InStr(core::UCase(zestaw), core::UCase(symbol)) > 0;
+    return core::InStr(core::UCase(zestaw), core::UCase(core::RTrim(line.s(Instal::ZestawListy)))) > 0;
+}
+
+std::vector<core::Record> Instal::listyZestawu(const std::vector<core::Record>& lines, const std::string& zestaw) {
+    std::vector<core::Record> out;
+    for (const core::Record& line : lines) {
+        if (out.size() == kListZestawu) break;
+        if (wZestawie(line, zestaw)) out.push_back(line);
+    }
+    return out;
 }
 
 }  // namespace reference

@@ -42,9 +42,14 @@ core::Record newLine(const std::string& title, const std::string& stem, const st
 std::string stem(const core::Record& line);
 // The first line whose stem equals `name` (padding ignored), or -1.
 int findByStem(const std::vector<core::Record>& lines, const std::string& name);
-// Whether the line's set symbol stands in `zestaw` (a text search without regard to case; a
-// line without a symbol is in no set).
+// The lists of a set, the one rule of every collective command: a line belongs when its set
+// column (without trailing blanks) stands in the set letters `zestaw`, a search of the letters
+// for the column's whole text without regard to case. An empty column is found at once, so a
+// list without a set letter belongs to every set, deliberately.
 bool wZestawie(const core::Record& line, const std::string& zestaw);
+// The lines of the set, in catalogue order, at most kListZestawu.
+constexpr std::size_t kListZestawu = 70;
+std::vector<core::Record> listyZestawu(const std::vector<core::Record>& lines, const std::string& zestaw);
 }  // namespace Instal
 
 // The line of a list in lstListaI and CmbWybierz: title padded to 33, a blank, the stem padded

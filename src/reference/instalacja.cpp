@@ -34,23 +34,23 @@ InstalacjaScreen::InstalacjaScreen(core::Dialogs& ui, core::Session& session)
     txtZestaw.ToolTipText = "Litera zestawu, np. A lub B";
     txtZestaw.Field = Instal::ZestawListy;
     lbTryb.at(4, 0, 3);
-    cmdDodajliste_.at(5, 0);
-    cmdaktual_.at(5, 1);
-    cmdZapisz_.at(5, 2);
-    cmdUsu_.at(6, 0);
-    cmdKoniec_.at(6, 2);
+    cmdDodajliste.at(5, 0);
+    cmdaktual.at(5, 1);
+    cmdZapisz.at(5, 2);
+    cmdUsu.at(6, 0);
+    cmdKoniec.at(6, 2);
 
     lstListaI.Click = [this] { lstListaI_Click(); };
-    cmdDodajliste_.Click = [this] { cmdDodajliste(); };
-    cmdaktual_.Click = [this] { cmdaktual(); };
-    cmdZapisz_.Click = [this] { cmdZapisz(); };
-    cmdUsu_.Click = [this] { cmdUsu(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    cmdDodajliste.Click = [this] { cmdDodajliste_Click(); };
+    cmdaktual.Click = [this] { cmdaktual_Click(); };
+    cmdZapisz.Click = [this] { cmdZapisz_Click(); };
+    cmdUsu.Click = [this] { cmdUsu_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
 }
 
 void InstalacjaScreen::setTryb(int tryb) {
     Tryb = tryb;
-    cmdZapisz_.Enabled = tryb != 0;
+    cmdZapisz.Enabled = tryb != 0;
     lbTryb.Caption = tryb == 1   ? "Nowa lista: wpisz jej dane i naciśnij Zapisz."
                      : tryb == 2 ? "Zmiana wybranej listy: popraw jej dane i naciśnij Zapisz."
                                  : "Wybierz listę, aby ją zmienić lub usunąć, albo dodaj nową.";
@@ -70,7 +70,7 @@ void InstalacjaScreen::Load() {
     } catch (const core::Error& e) {
         if (e.Number != core::err::PathNotFound) throw;
         brakPlatnika(ui);
-        cmdDodajliste_.Enabled = cmdaktual_.Enabled = cmdUsu_.Enabled = false;
+        cmdDodajliste.Enabled = cmdaktual.Enabled = cmdUsu.Enabled = false;
     }
 }
 
@@ -87,7 +87,7 @@ void InstalacjaScreen::lstListaI_Click() {
     if (Tryb == 1) setTryb(0);
 }
 
-void InstalacjaScreen::cmdDodajliste() {
+void InstalacjaScreen::cmdDodajliste_Click() {
     lstListaI.ListIndex = -1;
     txtNazwaListy1.Text.clear();
     txtSkrotlisty1.Text.clear();
@@ -97,7 +97,7 @@ void InstalacjaScreen::cmdDodajliste() {
     SetFocus(txtNazwaListy1);
 }
 
-void InstalacjaScreen::cmdaktual() {
+void InstalacjaScreen::cmdaktual_Click() {
     if (lstListaI.ListIndex < 0) {
         ui.msgBox("Najpierw wybierz z listy listę płac, którą chcesz zmienić.", Buttons::OK, Icon::Exclamation,
                   "Zmiana listy");
@@ -119,7 +119,7 @@ bool InstalacjaScreen::check() {
     return true;
 }
 
-void InstalacjaScreen::cmdZapisz() {
+void InstalacjaScreen::cmdZapisz_Click() {
     if (Tryb == 0) return;
     if (Tryb == 2 && lstListaI.ListIndex < 0) {
         ui.msgBox("Najpierw wybierz z listy listę płac, którą chcesz zmienić.", Buttons::OK, Icon::Exclamation,
@@ -154,7 +154,7 @@ void InstalacjaScreen::cmdZapisz() {
     });
 }
 
-void InstalacjaScreen::cmdUsu() {
+void InstalacjaScreen::cmdUsu_Click() {
     if (lstListaI.ListIndex < 0) {
         ui.msgBox("Najpierw wybierz z listy listę płac, którą chcesz usunąć.", Buttons::OK, Icon::Exclamation,
                   "Usuwanie listy");

@@ -12,10 +12,10 @@ public:
     void Load() override;
 
     void lstListaI_Click();
-    void cmdDodajliste();
-    void cmdaktual();
-    void cmdZapisz();
-    void cmdUsu();
+    void cmdDodajliste_Click();
+    void cmdaktual_Click();
+    void cmdZapisz_Click();
+    void cmdUsu_Click();
 
     // 0 nothing to save, 1 a new list, 2 the chosen list changed.
     int Tryb = 0;
@@ -30,11 +30,11 @@ public:
     core::Control txtGrupa1{this, "txtGrupa1", core::Kind::TextBox};
     core::Control txtZestaw{this, "txtZestaw", core::Kind::TextBox};
     core::Control lbTryb{this, "lbTryb", core::Kind::Label};
-    core::Control cmdDodajliste_{this, "cmdDodajliste", core::Kind::CommandButton, "&Dodaj listę"};
-    core::Control cmdaktual_{this, "cmdaktual", core::Kind::CommandButton, "&Aktualizuj listę"};
-    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz"};
-    core::Control cmdUsu_{this, "cmdUsu", core::Kind::CommandButton, "&Usuń listę"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdDodajliste{this, "cmdDodajliste", core::Kind::CommandButton, "&Dodaj listę"};
+    core::Control cmdaktual{this, "cmdaktual", core::Kind::CommandButton, "&Aktualizuj listę"};
+    core::Control cmdZapisz{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz"};
+    core::Control cmdUsu{this, "cmdUsu", core::Kind::CommandButton, "&Usuń listę"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void fillList(int select);

@@ -76,23 +76,23 @@ MojaFirmaScreen::MojaFirmaScreen(core::Dialogs& ui, core::Session& session)
     txt(Firma::WypadkowaStawkaF).ToolTipText =
         "Stawka wypadkowa Płatnika w procentach; 0 = stawka z tabeli stawek roku";
     txt(Firma::DodatkiStazowe).ToolTipText = "T = oskładkowane, N = nie";
-    cmdWstecz_.at(3, 0);
-    cmdNext_.at(3, 1);
-    cmdZnajdz_.at(4, 0);
-    cmdDodaj_.at(4, 1);
-    cmdZmianyM_.at(5, 0);
-    cmdUsun_.at(5, 1);
-    cmdKoniecM_.at(6, 0);
-    cmdZamknij_.at(6, 1);
+    cmdWstecz.at(3, 0);
+    cmdNext.at(3, 1);
+    cmdZnajdz.at(4, 0);
+    cmdDodaj.at(4, 1);
+    cmdZmianyM.at(5, 0);
+    cmdUsun.at(5, 1);
+    cmdKoniecM.at(6, 0);
+    cmdZamknij.at(6, 1);
 
-    cmdWstecz_.Click = [this] { cmdWstecz(); };
-    cmdNext_.Click = [this] { cmdNext(); };
-    cmdZnajdz_.Click = [this] { cmdZnajdz(); };
-    cmdDodaj_.Click = [this] { cmdDodaj(); };
-    cmdZmianyM_.Click = [this] { cmdZmianyM(); };
-    cmdUsun_.Click = [this] { cmdUsun(); };
-    cmdKoniecM_.Click = [this] { cmdKoniecM(); };
-    cmdZamknij_.Click = [this] { Unload(); };
+    cmdWstecz.Click = [this] { cmdWstecz_Click(); };
+    cmdNext.Click = [this] { cmdNext_Click(); };
+    cmdZnajdz.Click = [this] { cmdZnajdz_Click(); };
+    cmdDodaj.Click = [this] { cmdDodaj_Click(); };
+    cmdZmianyM.Click = [this] { cmdZmianyM_Click(); };
+    cmdUsun.Click = [this] { cmdUsun_Click(); };
+    cmdKoniecM.Click = [this] { cmdKoniecM_Click(); };
+    cmdZamknij.Click = [this] { Unload(); };
 }
 
 std::vector<core::Record> MojaFirmaScreen::read() { return readPayers(s); }
@@ -104,25 +104,25 @@ void MojaFirmaScreen::show(const std::vector<core::Record>& recs, int index) {
         boxes.clear();
     else
         boxes.fill(recs[static_cast<std::size_t>(Biezacy)]);
-    skrotShown_ = txt(Firma::SkrotPlatnika).Text;
-    cmdWstecz_.Enabled = Biezacy > 0;
-    cmdNext_.Enabled = Biezacy >= 0 && Biezacy < n - 1;
-    cmdZnajdz_.Enabled = cmdZmianyM_.Enabled = cmdUsun_.Enabled = cmdKoniecM_.Enabled = Biezacy >= 0;
+    skrotShown = txt(Firma::SkrotPlatnika).Text;
+    cmdWstecz.Enabled = Biezacy > 0;
+    cmdNext.Enabled = Biezacy >= 0 && Biezacy < n - 1;
+    cmdZnajdz.Enabled = cmdZmianyM.Enabled = cmdUsun.Enabled = cmdKoniecM.Enabled = Biezacy >= 0;
     for (std::size_t i = 0; i < boxes.size(); ++i) boxes.box(i).Enabled = Biezacy >= 0;
     if (Biezacy < 0) {
         lbPozycja.Caption = "Rejestr Płatników jest pusty - dodaj Płatnika.";
     } else {
         lbPozycja.Caption = "Płatnik " + std::to_string(Biezacy + 1) + " z " + std::to_string(n);
-        if (skrotShown_ == s.SkrotPlatnika) lbPozycja.Caption += "  (bieżący Płatnik programu)";
+        if (skrotShown == s.SkrotPlatnika) lbPozycja.Caption += "  (bieżący Płatnik programu)";
     }
 }
 
 int MojaFirmaScreen::shown(const std::vector<core::Record>& recs) const {
     if (Biezacy >= 0 && Biezacy < static_cast<int>(recs.size()) &&
-        recs[static_cast<std::size_t>(Biezacy)].s(Firma::SkrotPlatnika) == skrotShown_)
+        recs[static_cast<std::size_t>(Biezacy)].s(Firma::SkrotPlatnika) == skrotShown)
         return Biezacy;
     for (std::size_t i = 0; i < recs.size(); ++i)
-        if (recs[i].s(Firma::SkrotPlatnika) == skrotShown_) return static_cast<int>(i);
+        if (recs[i].s(Firma::SkrotPlatnika) == skrotShown) return static_cast<int>(i);
     return -1;
 }
 
@@ -131,19 +131,19 @@ void MojaFirmaScreen::Load() {
     show(recs, findPayer(recs, s.SkrotPlatnika));
 }
 
-void MojaFirmaScreen::cmdNext() {
+void MojaFirmaScreen::cmdNext_Click() {
     auto recs = read();
     int i = shown(recs);
     show(recs, i + 1);
 }
 
-void MojaFirmaScreen::cmdWstecz() {
+void MojaFirmaScreen::cmdWstecz_Click() {
     auto recs = read();
     int i = shown(recs);
     show(recs, i < 0 ? 0 : i - 1);
 }
 
-void MojaFirmaScreen::cmdZnajdz() {
+void MojaFirmaScreen::cmdZnajdz_Click() {
     auto typed = ui.inputBox("Podaj skrót, NIP lub część nazwy szukanego Płatnika", "Znajdź Płatnika");
     if (!typed || core::Trim(*typed).empty()) return;
     const std::string want = core::UCase(core::Trim(*typed));
@@ -165,7 +165,7 @@ void MojaFirmaScreen::cmdZnajdz() {
     ui.msgBox("Nie znaleziono Płatnika: " + core::Trim(*typed), Buttons::OK, Icon::Information, "Znajdź Płatnika");
 }
 
-void MojaFirmaScreen::cmdDodaj() {
+void MojaFirmaScreen::cmdDodaj_Click() {
     auto typed = ui.inputBox("Podaj skrót nazwy Płatnika (bez spacji,przecinków polskich liter i apostrofów np. ORVEL)",
                              " Przyjęcie skróconej nazwy Platnika", "Dodaj Płatnika");
     if (!typed) return;
@@ -214,12 +214,12 @@ void MojaFirmaScreen::take(core::Record& r) {
     }
 }
 
-void MojaFirmaScreen::cmdZmianyM() {
+void MojaFirmaScreen::cmdZmianyM_Click() {
     if (!check()) return;
     auto recs = read();
     int i = shown(recs);
     if (i < 0) {
-        ui.msgBox("Płatnika \"" + skrotShown_ + "\" nie ma już w rejestrze - zmian nie zapisano.", Buttons::OK,
+        ui.msgBox("Płatnika \"" + skrotShown + "\" nie ma już w rejestrze - zmian nie zapisano.", Buttons::OK,
                   Icon::Exclamation, kTytulBledu);
         return;
     }
@@ -240,7 +240,7 @@ void MojaFirmaScreen::cmdZmianyM() {
     lbPozycja.Caption += "  -  zmiany zapisane";
 }
 
-void MojaFirmaScreen::cmdUsun() {
+void MojaFirmaScreen::cmdUsun_Click() {
     auto recs = read();
     int i = shown(recs);
     if (i < 0) return;
@@ -254,7 +254,7 @@ void MojaFirmaScreen::cmdUsun() {
     show(recs, i);
 }
 
-void MojaFirmaScreen::cmdKoniecM() {
+void MojaFirmaScreen::cmdKoniecM_Click() {
     auto recs = read();
     int i = shown(recs);
     if (i < 0) return;

@@ -17,14 +17,14 @@ public:
     // Shows the session's payer (the last of the register when it is not there).
     void Load() override;
 
-    void cmdNext();
-    void cmdWstecz();
-    void cmdZnajdz();
-    void cmdDodaj();
-    void cmdZmianyM();
-    void cmdUsun();
+    void cmdNext_Click();
+    void cmdWstecz_Click();
+    void cmdZnajdz_Click();
+    void cmdDodaj_Click();
+    void cmdZmianyM_Click();
+    void cmdUsun_Click();
     // Makes the shown payer the payer of the session and closes the screen.
-    void cmdKoniecM();
+    void cmdKoniecM_Click();
 
     // The text box of a field of MojaFirma.txt.
     core::Control& txt(int field) { return boxes[field]; }
@@ -41,14 +41,14 @@ public:
     core::Control lbDataurodzenia{this, "lbDataurodzenia", core::Kind::Label, "ddmmRRRR"};
     core::Control lbRodzajPlatnika{this, "lbRodzajPlatnika", core::Kind::Label,
                                    "N= nie upoważniony do wypłaty zasiłków ZUS , U = upoważniony"};
-    core::Control cmdWstecz_{this, "cmdWstecz", core::Kind::CommandButton, "<< &Wstecz"};
-    core::Control cmdNext_{this, "cmdNext", core::Kind::CommandButton, "&Następny >>"};
-    core::Control cmdZnajdz_{this, "cmdZnajdź", core::Kind::CommandButton, "Zn&ajdź"};
-    core::Control cmdDodaj_{this, "cmdDodaj", core::Kind::CommandButton, "&Dodaj Płatnika"};
-    core::Control cmdZmianyM_{this, "cmdZmianyM", core::Kind::CommandButton, "Zapisz &Zmiany"};
-    core::Control cmdUsun_{this, "cmdUsuń", core::Kind::CommandButton, "&Usuń Płatnika"};
-    core::Control cmdKoniecM_{this, "cmdKoniecM", core::Kind::CommandButton, "W&ybierz"};
-    core::Control cmdZamknij_{this, "cmdZamknij", core::Kind::CommandButton, "Za&mknij"};
+    core::Control cmdWstecz{this, "cmdWstecz", core::Kind::CommandButton, "<< &Wstecz"};
+    core::Control cmdNext{this, "cmdNext", core::Kind::CommandButton, "&Następny >>"};
+    core::Control cmdZnajdz{this, "cmdZnajdź", core::Kind::CommandButton, "Zn&ajdź"};
+    core::Control cmdDodaj{this, "cmdDodaj", core::Kind::CommandButton, "&Dodaj Płatnika"};
+    core::Control cmdZmianyM{this, "cmdZmianyM", core::Kind::CommandButton, "Zapisz &Zmiany"};
+    core::Control cmdUsun{this, "cmdUsuń", core::Kind::CommandButton, "&Usuń Płatnika"};
+    core::Control cmdKoniecM{this, "cmdKoniecM", core::Kind::CommandButton, "W&ybierz"};
+    core::Control cmdZamknij{this, "cmdZamknij", core::Kind::CommandButton, "Za&mknij"};
 
 private:
     std::vector<core::Record> read();
@@ -57,7 +57,7 @@ private:
     void take(core::Record& r);
     // The position of the shown payer in `recs`, found again by its short name.
     int shown(const std::vector<core::Record>& recs) const;
-    std::string skrotShown_;
+    std::string skrotShown;
 };
 
 }  // namespace reference

@@ -69,12 +69,12 @@ PodatkiScreen::PodatkiScreen(core::Dialogs& ui, core::Session& session)
     fraInne.at(1, 2);
     Label36.in("fraZUS").label("Kwota składki zdrowotnej indywidualnej");
     Label34.at(2, 0, 3);
-    cmdZapisz_.at(3, 0);
+    cmdZapisz.at(3, 0);
     CmdZmianaKosztow.at(3, 1);
-    cmdKoniec_.at(3, 2);
-    cmdZapisz_.Click = [this] { cmdZapisz(); };
+    cmdKoniec.at(3, 2);
+    cmdZapisz.Click = [this] { cmdZapisz_Click(); };
     CmdZmianaKosztow.Click = [this] { cmdZmianaKosztow(); };
-    cmdKoniec_.Click = [this] { cmdKoniec(); };
+    cmdKoniec.Click = [this] { cmdKoniec_Click(); };
 }
 
 // The amounts on the screen go to the pay records of the set (the command of the pay inputs).
@@ -145,7 +145,7 @@ void PodatkiScreen::take(core::Record& r) {
     r.set(Dane::Rok, s.rok());
 }
 
-void PodatkiScreen::cmdZapisz() {
+void PodatkiScreen::cmdZapisz_Click() {
     if (!checkNumbers()) return;
     guarded([&] {
         const std::string year = s.rok();
@@ -182,10 +182,10 @@ ObslugaScreen::ObslugaScreen(core::Dialogs& ui, core::Session& session)
     txtAdministrator1.at(0, 0).label("Imię i nazwisko administratora").width(30);
     txtAdministrator2.at(1, 0).label("Stanowisko").width(30);
     lbAdministrator.at(2, 0, 2);
-    cmdZapisz_.at(3, 0);
-    cmdKoniec_.at(3, 1);
-    cmdZapisz_.Click = [this] { cmdZapisz(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    cmdZapisz.at(3, 0);
+    cmdKoniec.at(3, 1);
+    cmdZapisz.Click = [this] { cmdZapisz_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
 }
 
 void ObslugaScreen::Load() {
@@ -195,7 +195,7 @@ void ObslugaScreen::Load() {
     lbAdministrator.Caption = administrator(r);
 }
 
-void ObslugaScreen::cmdZapisz() {
+void ObslugaScreen::cmdZapisz_Click() {
     guarded([&] {
         const std::string year = s.rok();
         fs::path file = Dane::path(s);

@@ -13,9 +13,9 @@ class PodatkiScreen : public core::Form {
 public:
     PodatkiScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void cmdZapisz();
+    void cmdZapisz_Click();
     void cmdZmianaKosztow();
-    void cmdKoniec() { Unload(); }
+    void cmdKoniec_Click() { Unload(); }
 
     // The text box of a field of Dane.dta.
     core::Control& txt(int field) { return boxes[field]; }
@@ -28,10 +28,10 @@ public:
     core::Control fraZUS{this, "fraZUS", core::Kind::Frame, "ZUS i fundusze"};
     core::Control fraInne{this, "fraInne", core::Kind::Frame, "Kwoty i wskaźniki"};
     core::FieldBoxes boxes;
-    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz zmiany"};
+    core::Control cmdZapisz{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz zmiany"};
     core::Control CmdZmianaKosztow{this, "CmdZmianaKosztow", core::Kind::CommandButton,
                                    "Zmiana kosztów uzyskania i ulgi pod w zbiorach"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void take(core::Record& r);
@@ -43,14 +43,14 @@ class ObslugaScreen : public core::Form {
 public:
     ObslugaScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void cmdZapisz();
+    void cmdZapisz_Click();
 
     core::Session& s;
     core::Control txtAdministrator1{this, "txtAdministrator1", core::Kind::TextBox};
     core::Control txtAdministrator2{this, "txtAdministrator2", core::Kind::TextBox};
     core::Control lbAdministrator{this, "lbAdministrator", core::Kind::Label};
-    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdZapisz{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 };
 
 }  // namespace reference

@@ -24,11 +24,11 @@ WyborScreen::WyborScreen(core::Dialogs& ui, core::Session& session)
     CmbWybierz.ToolTipText = "Lista płac, z którą chcesz pracować";
     lbUwaga.at(3, 0, 2);
     lbUwaga.Visible = false;
-    CmdWybierz_.at(4, 0);
-    cmdKoniec_.at(4, 1);
-    CmdWybierz_.Click = [this] { CmdWybierz(); };
-    CmbWybierz.DblClick = [this] { CmdWybierz(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    CmdWybierz.at(4, 0);
+    cmdKoniec.at(4, 1);
+    CmdWybierz.Click = [this] { CmdWybierz_Click(); };
+    CmbWybierz.DblClick = [this] { CmdWybierz_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
 }
 
 void WyborScreen::Load() {
@@ -50,7 +50,7 @@ void WyborScreen::Load() {
     lbUwaga.Caption = "Płatnik nie ma jeszcze list płac - dodaj je w menu Instalacyjne > Instalacja list płac.";
 }
 
-bool WyborScreen::CmdWybierz() {
+bool WyborScreen::CmdWybierz_Click() {
     // 1.
     std::string text = CmbWybierz.ListIndex >= 0 ? CmbWybierz.selectedText() : CmbWybierz.Text;
     if (text == kWybierzListe || text.empty()) {

@@ -13,15 +13,15 @@ public:
     void Load() override;
     // Opens the chosen list: checks the choice, puts the list into the session and opens the
     // workspace of the list. Returns whether the list was taken into the session.
-    bool CmdWybierz();
+    bool CmdWybierz_Click();
 
     core::Session& s;
     core::Control lbPlatnik{this, "lbPlatnik", core::Kind::Label};
     core::Control lbNaglowek{this, "lbNaglowek", core::Kind::Label};
     core::Control CmbWybierz{this, "CmbWybierz", core::Kind::ComboBox};
     core::Control lbUwaga{this, "lbUwaga", core::Kind::Label};
-    core::Control CmdWybierz_{this, "CmdWybierz", core::Kind::CommandButton, "&Akceptuj wybór"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Zamknij"};
+    core::Control CmdWybierz{this, "CmdWybierz", core::Kind::CommandButton, "&Akceptuj wybór"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Zamknij"};
 };
 
 }  // namespace reference

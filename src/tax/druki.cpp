@@ -73,7 +73,9 @@ const Pole kPit4[] = {
     {1, 43, 5, 10, "Data"},
 };
 
-const Pole kPit11[] = {
+// Page 1 of PIT-11(21) up to the costs, which PIT-40 of the same edition repeats: the payer,
+// the person, the period.
+const Pole kNaglowekPit11[] = {
     {1, 3, 5, 13, "NIP"},
     {1, 3, 60, 4, "Rok"},
     {1, 6, 5, 80, "Nazwa"},
@@ -102,6 +104,9 @@ const Pole kPit11[] = {
     {1, 35, 26, 1, "Koszty2"},
     {1, 35, 44, 1, "Koszty3"},
     {1, 35, 62, 1, "Koszty4"},
+};
+
+const Pole kPit11Dalej[] = {
     {1, 38, 8, 1, "PitR"},
     {2, 4, 24, 12, "R1.Przychod", Wyr::P},
     {2, 4, 37, 12, "R1.Koszty", Wyr::P},
@@ -234,35 +239,7 @@ const Pole kPit8B[] = {
     {2, 16, 72, 12, "SkladkiZUS", Wyr::P},
 };
 
-const Pole kPit40[] = {
-    {1, 3, 5, 13, "NIP"},
-    {1, 3, 60, 4, "Rok"},
-    {1, 6, 5, 80, "Nazwa"},
-    {1, 9, 14, 1, "Fizyczna"},
-    {1, 9, 43, 1, "Niefizyczna"},
-    {1, 13, 5, 80, "UrzadSkarbowy"},
-    {1, 16, 5, 11, "Pesel"},
-    {1, 16, 30, 13, "NipOsoby"},
-    {1, 19, 5, 35, "Nazwisko"},
-    {1, 19, 42, 20, "Imie"},
-    {1, 19, 66, 10, "DataUrodzenia"},
-    {1, 20, 42, 20, "DrugieImie"},
-    {1, 23, 5, 20, "Obywatelstwo"},
-    {1, 23, 30, 25, "Wojewodztwo"},
-    {1, 23, 58, 25, "Powiat"},
-    {1, 26, 5, 25, "Gmina"},
-    {1, 26, 32, 30, "Ulica"},
-    {1, 26, 64, 6, "NrDomu"},
-    {1, 26, 72, 6, "Lokal"},
-    {1, 29, 5, 30, "Miejscowosc"},
-    {1, 29, 38, 6, "Kod"},
-    {1, 29, 48, 30, "Poczta"},
-    {1, 32, 5, 10, "OdData"},
-    {1, 32, 20, 10, "DoData"},
-    {1, 35, 8, 1, "Koszty1"},
-    {1, 35, 26, 1, "Koszty2"},
-    {1, 35, 44, 1, "Koszty3"},
-    {1, 35, 62, 1, "Koszty4"},
+const Pole kPit40Dalej[] = {
     {2, 4, 76, 12, "P40.Przychod", Wyr::P},
     {2, 6, 76, 12, "P40.Koszty", Wyr::P},
     {2, 8, 76, 12, "P40.Dochod", Wyr::P},
@@ -277,6 +254,13 @@ const Pole kPit40[] = {
     {2, 26, 76, 12, "P40.Nadplata", Wyr::P},
 };
 
+// The fields of a form whose head another form shares.
+std::vector<Pole> zNaglowkiem(std::span<const Pole> naglowek, std::span<const Pole> dalej) {
+    std::vector<Pole> pola(naglowek.begin(), naglowek.end());
+    pola.insert(pola.end(), dalej.begin(), dalej.end());
+    return pola;
+}
+
 }  // namespace
 
 const Formularz& formularzPit4() {
@@ -285,7 +269,8 @@ const Formularz& formularzPit4() {
 }
 
 const Formularz& formularzPit11() {
-    static const Formularz f{"PIT-11", "PIT-11(21)", kPit11};
+    static const std::vector<Pole> pola = zNaglowkiem(kNaglowekPit11, kPit11Dalej);
+    static const Formularz f{"PIT-11", "PIT-11(21)", pola};
     return f;
 }
 
@@ -295,7 +280,8 @@ const Formularz& formularzPit8B() {
 }
 
 const Formularz& formularzPit40() {
-    static const Formularz f{"PIT-40", "PIT-40 z okresu PIT-11(21)", kPit40};
+    static const std::vector<Pole> pola = zNaglowkiem(kNaglowekPit11, kPit40Dalej);
+    static const Formularz f{"PIT-40", "PIT-40 z okresu PIT-11(21)", pola};
     return f;
 }
 

@@ -3,8 +3,16 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "reference/payers.h"
 
 namespace tax {
+
+void wartosciPlatnika(Wartosci& w, const core::Record& firma) {
+    w["NIP"] = firma.s(reference::Firma::NIP);
+    w["Nazwa"] = firma.s(reference::Firma::NazwaM);
+    const bool fizyczna = core::Left(firma.s(reference::Firma::RodzajPlatnika), 1) == "F";
+    w[fizyczna ? "Fizyczna" : "Niefizyczna"] = "X";
+}
 
 std::vector<std::string> linieStrony(const Formularz& f, int strona, const Wartosci& w) {
     int ostatnia = 0;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/printer.h"
+#include "core/record.h"
 
 namespace tax {
 
@@ -31,6 +32,10 @@ struct Formularz {
 // The values of one print by source name. A source missing from the map prints nothing; a
 // tick is the value "X".
 using Wartosci = std::map<std::string, std::string>;
+
+// The payer's boxes of every form: NIP, name and the tick of a natural person (a type beginning
+// with "F") or of another payer, from the payer's record of MojaFirma.txt.
+void wartosciPlatnika(Wartosci& w, const core::Record& firma);
 
 // The lines of a page as they go to the printer (trailing blanks dropped, empty lines kept up
 // to the last line the table uses).

@@ -477,12 +477,7 @@ void Pit11Screen::ZeZbioru() {
 Wartosci Pit11Screen::wartosci(const core::Record& r, Druk druk) const {
     Wartosci w;
     const core::Record& f = s.Firma;
-    if (f.valid()) {
-        w["NIP"] = f.s(reference::Firma::NIP);
-        w["Nazwa"] = f.s(reference::Firma::NazwaM);
-        bool fizyczna = core::Left(f.s(reference::Firma::RodzajPlatnika), 1) == "F";
-        w[fizyczna ? "Fizyczna" : "Niefizyczna"] = "X";
-    }
+    if (f.valid()) wartosciPlatnika(w, f);
     w["Rok"] = s.rok();
     w["OdData"] = txtOdData.Text;
     w["DoData"] = txtDoData.Text;

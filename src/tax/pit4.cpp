@@ -8,6 +8,7 @@
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
 #include "printing/lista_plac.h"
+#include "reference/catalogue.h"
 #include "reference/payers.h"
 #include "reference/rates.h"
 #include "tax/skladniki.h"
@@ -61,7 +62,9 @@ SumyPit4 wyliczPit4(const core::Session& s, const std::string& zestaw) {
     auto plik = [&](Dod::Rodzaj r, const std::string& lista, const std::string& stamp) {
         return czytajJesliJest(Dod::path(s, r, lista, stamp), &Dod::readAll);
     };
-    for (const std::string& lista : listyZestawu(s, zestaw)) {
+    for (const core::Record& wiersz : reference::Instal::listyZestawu(reference::Instal::read(s), core::UCase(zestaw))) {
+        // The file stem: the list's short name cut or padded to 8, right-trimmed.
+        const std::string lista = core::RTrim(core::Left(core::PadRight(wiersz.s(reference::Instal::Skrotlisty), 8), 8));
         if (!dodajKarte(t, Karta::path(s, lista, RRmm))) continue;
         for (const auto& r : plik(Dod::Rodzaj::God, lista, RRmm)) dodajDodatkowy(t, r);
         for (const auto& r : plik(Dod::Rodzaj::Dod, lista, RRmm)) dodajSkladnik(t, skladnikiDodatkow(st, r, stawka1));
@@ -294,12 +297,9 @@ Wartosci Pit4Screen::wartosci() {
     Wartosci w;
     const core::Record& f = s.Firma;
     if (f.valid()) {
+        wartosciPlatnika(w, f);
         w["UrzadSkarbowy"] = f.s(reference::Firma::UrzadSkarbowyM);
-        w["NIP"] = f.s(reference::Firma::NIP);
-        w["Nazwa"] = f.s(reference::Firma::NazwaM);
         w["Regon"] = f.s(reference::Firma::RegonM);
-        bool fizyczna = core::Left(f.s(reference::Firma::RodzajPlatnika), 1) == "F";
-        w[fizyczna ? "Fizyczna" : "Niefizyczna"] = "X";
     }
     w["Miesiac"] = s.miesiac();
     w["Rok"] = s.rok();

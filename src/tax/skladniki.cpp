@@ -14,20 +14,6 @@ namespace Dod = paycalc::Dodatkowy;
 
 namespace tax {
 
-std::vector<std::string> listyZestawu(const core::Session& s, const std::string& zestaw) {
-    std::vector<std::string> listy;
-    const std::string litery = core::UCase(zestaw);
-    for (const auto& wiersz : reference::Instal::read(s)) {
-        // A search of the letters for the column's whole text: an empty column is found at once.
-        const std::string kolumna = wiersz.s(reference::Instal::ZestawListy);
-        if (!kolumna.empty() && core::InStr(litery, kolumna) == 0) continue;
-        if (listy.size() == 70) break;
-        std::string skrot = core::Left(core::PadRight(wiersz.s(reference::Instal::Skrotlisty), 8), 8);
-        listy.push_back(core::RTrim(skrot));
-    }
-    return listy;
-}
-
 KluczOsoby kluczKarty(const core::Record& k) {
     return {core::RTrim(k.s(Karta::Nazwisko)), core::RTrim(k.s(Karta::Imie)),
             personnel::kluczOsoby(k.s(Karta::Obywatelstwo), k.s(Karta::Klucz), k.s(Karta::Dokument)),

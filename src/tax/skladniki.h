@@ -11,11 +11,6 @@
 
 namespace tax {
 
-// The file stems (right-trimmed, from the list's short name cut or padded to 8) of the lists
-// of instal.dat whose set column occurs in `zestaw`; a list with an empty set column always
-// belongs. At most 70 lists, in catalogue order.
-std::vector<std::string> listyZestawu(const core::Session& s, const std::string& zestaw);
-
 // A person as the ledger and the supplementary files match it: surname, first name (both
 // right-trimmed), the identifier (PESEL, or the document for a foreigner) and the insurance code.
 struct KluczOsoby {

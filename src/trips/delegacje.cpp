@@ -64,7 +64,7 @@ DelegacjeScreen::DelegacjeScreen(core::Dialogs& ui, core::Session& session)
     fraMiesiac.at(0, 1);
     MonthView2.in("fraMiesiac").at(0, 0, 2);
     lbMiesiac.in("fraMiesiac").at(1, 0);
-    CmdOdswierz_.in("fraMiesiac").at(1, 1);
+    CmdOdswierz.in("fraMiesiac").at(1, 1);
     MSFlexGrid2.in("fraMiesiac").at(2, 0, 2).width(56);
 
     fraDelegacja.at(1, 1);
@@ -92,10 +92,10 @@ DelegacjeScreen::DelegacjeScreen(core::Dialogs& ui, core::Session& session)
     lbWartoscWaluty.in("fraPozycja").at(4, 1).label("Wartość w walucie:");
     lbKurs.in("fraPozycja").at(4, 2).label("Kurs:");
     lbWartoscPLN.in("fraPozycja").at(5, 0).label("Wartość PLN:");
-    cmdPrzelicz_.in("fraPozycja").at(5, 1);
-    cmdDodajPozycje_.in("fraPozycja").at(6, 0);
-    cmdZapiszPozycje_.in("fraPozycja").at(6, 1);
-    CmdUsunPozycje_.in("fraPozycja").at(6, 2);
+    cmdPrzelicz.in("fraPozycja").at(5, 1);
+    cmdDodajPozycje.in("fraPozycja").at(6, 0);
+    cmdZapiszPozycje.in("fraPozycja").at(6, 1);
+    CmdUsunPozycje.in("fraPozycja").at(6, 2);
     MSFlexGrid3.at(3, 0, 2).width(120);
 
     fraKoszty.at(4, 0, 2);
@@ -110,34 +110,34 @@ DelegacjeScreen::DelegacjeScreen(core::Dialogs& ui, core::Session& session)
     txtDoWyplaty.in("fraKoszty").at(2, 1).labelledBy(LbOgolem).width(10);
     txtDoWyplaty.Locked = true;
 
-    cmdZapiszDelegacje_.at(5, 0);
-    CmdEdytujDelegacje_.at(5, 1);
-    CmdUsuNDelegacje_.at(6, 0);
-    CmdDrukujRozliczenie_.at(6, 1);
-    cmdDrukujZestawienie_.at(7, 0);
-    cmdKoniec_.at(7, 1);
+    cmdZapiszDelegacje.at(5, 0);
+    CmdEdytujDelegacje.at(5, 1);
+    CmdUsuNDelegacje.at(6, 0);
+    CmdDrukujRozliczenie.at(6, 1);
+    cmdDrukujZestawienie.at(7, 0);
+    cmdKoniec.at(7, 1);
 
     MSFlexGrid1.Click = [this] { MSFlexGrid1_Click(); };
     MonthView2.Click = [this] { MonthView2_Click(); };
-    CmdOdswierz_.Click = [this] { CmdOdswierz(); };
+    CmdOdswierz.Click = [this] { CmdOdswierz_Click(); };
     cmbKraj.Click = [this] { cmbKraj_Click(); };
     cmbWaluta.Click = [this] { cmbWaluta_Click(); };
     cmbStawka.Click = [this] { cmbStawka.Text = cmbStawka.selectedText(); };
-    cmdPrzelicz_.Click = [this] { cmdPrzelicz(); };
-    cmdDodajPozycje_.Click = [this] { cmdDodajPozycje(); };
-    cmdZapiszPozycje_.Click = [this] { cmdZapiszPozycje(); };
+    cmdPrzelicz.Click = [this] { cmdPrzelicz_Click(); };
+    cmdDodajPozycje.Click = [this] { cmdDodajPozycje_Click(); };
+    cmdZapiszPozycje.Click = [this] { cmdZapiszPozycje_Click(); };
     MSFlexGrid3.Click = [this] { MSFlexGrid3_Click(); };
-    CmdUsunPozycje_.Click = [this] { CmdUsunPozycje(); };
+    CmdUsunPozycje.Click = [this] { CmdUsunPozycje_Click(); };
     for (core::Control* k : {&txtRyczalt, &txtInneW, &txtZaliczka}) k->LostFocus = [this] { przeliczRazem(); };
     cmbNocleg.Click = [this] { przeliczRazem(); };
     cmbNocleg.LostFocus = [this] { przeliczRazem(); };
-    cmdZapiszDelegacje_.Click = [this] { cmdZapiszDelegacje(); };
-    CmdEdytujDelegacje_.Click = [this] { CmdEdytujDelegacje(); };
-    MSFlexGrid2.DblClick = [this] { CmdEdytujDelegacje(); };
-    CmdUsuNDelegacje_.Click = [this] { CmdUsuNDelegacje(); };
-    CmdDrukujRozliczenie_.Click = [this] { CmdDrukujRozliczenie(); };
-    cmdDrukujZestawienie_.Click = [this] { cmdDrukujZestawienie(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    cmdZapiszDelegacje.Click = [this] { cmdZapiszDelegacje_Click(); };
+    CmdEdytujDelegacje.Click = [this] { CmdEdytujDelegacje_Click(); };
+    MSFlexGrid2.DblClick = [this] { CmdEdytujDelegacje_Click(); };
+    CmdUsuNDelegacje.Click = [this] { CmdUsuNDelegacje_Click(); };
+    CmdDrukujRozliczenie.Click = [this] { CmdDrukujRozliczenie_Click(); };
+    cmdDrukujZestawienie.Click = [this] { cmdDrukujZestawienie_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
 }
 
 void DelegacjeScreen::Load() {
@@ -198,10 +198,10 @@ void DelegacjeScreen::MonthView2_Click() {
     RRmm = core::FormatDate(d, "yymm");
     miesiacTekst = core::FormatDate(d, "mmmm,yyyy");
     lbMiesiac.Caption = miesiacTekst;
-    CmdOdswierz();
+    CmdOdswierz_Click();
 }
 
-void DelegacjeScreen::CmdOdswierz() {
+void DelegacjeScreen::CmdOdswierz_Click() {
     MSFlexGrid2.setGrid(1, MSFlexGrid2.Cols);
     plikiMiesiaca.clear();
     guarded([&] {
@@ -274,7 +274,7 @@ bool DelegacjeScreen::policzPozycje() {
     return true;
 }
 
-bool DelegacjeScreen::cmdPrzelicz() {
+bool DelegacjeScreen::cmdPrzelicz_Click() {
     txtGodzinaW.Text = godzina(txtGodzinaW.Text);
     txtGodzinaP.Text = godzina(txtGodzinaP.Text);
     return policzPozycje();
@@ -347,25 +347,25 @@ void DelegacjeScreen::wypelnijPozycje(const std::vector<core::Record>& pozycje) 
     }
 }
 
-void DelegacjeScreen::cmdDodajPozycje() {
+void DelegacjeScreen::cmdDodajPozycje_Click() {
     if (nazwisko.empty()) {
         ui.msgBox("Wybiez pracownika delegowanego", Buttons::OK, Icon::Exclamation, "Brak wpisanej wskazanego pracownika !");
         return;
     }
-    if (!cmdPrzelicz()) return;
+    if (!cmdPrzelicz_Click()) return;
     std::vector<core::Record> v = pozycjeZSiatki();
     v.push_back(pozycja(static_cast<int>(v.size()) + 1));
     wypelnijPozycje(v);
     przeliczRazem();
 }
 
-void DelegacjeScreen::cmdZapiszPozycje() {
+void DelegacjeScreen::cmdZapiszPozycje_Click() {
     int r = MSFlexGrid3.Row;
     if (r < 1 || r >= MSFlexGrid3.Rows) {
         ui.msgBox("Wskaż w tabeli pozycję do zmiany.", Buttons::OK, Icon::Exclamation, "Zmiana pozycji");
         return;
     }
-    if (!cmdPrzelicz()) return;
+    if (!cmdPrzelicz_Click()) return;
     std::vector<core::Record> v = pozycjeZSiatki();
     v[static_cast<std::size_t>(r - 1)] = pozycja(r);
     wypelnijPozycje(v);
@@ -378,7 +378,7 @@ void DelegacjeScreen::MSFlexGrid3_Click() {
     pokazPozycje(pozycjeZSiatki()[static_cast<std::size_t>(r - 1)]);
 }
 
-void DelegacjeScreen::CmdUsunPozycje() {
+void DelegacjeScreen::CmdUsunPozycje_Click() {
     int r = MSFlexGrid3.Row;
     if (r < 1 || r >= MSFlexGrid3.Rows) return;
     if (MSFlexGrid3.Rows == 2) {
@@ -459,7 +459,7 @@ void DelegacjeScreen::wyczyscPozycje() {
     lbKurs.Caption = "0,0000";
 }
 
-void DelegacjeScreen::cmdZapiszDelegacje() {
+void DelegacjeScreen::cmdZapiszDelegacje_Click() {
     if (MSFlexGrid3.Rows <= 1) {
         ui.msgBox("Brak wpisanej jakiejkolwiek pozycji!", Buttons::OK, Icon::Exclamation, kZastanowSie);
         return;
@@ -485,7 +485,7 @@ void DelegacjeScreen::cmdZapiszDelegacje() {
     });
 }
 
-void DelegacjeScreen::CmdEdytujDelegacje() {
+void DelegacjeScreen::CmdEdytujDelegacje_Click() {
     int r = MSFlexGrid2.Row;
     if (r < 1 || r >= MSFlexGrid2.Rows) {
         ui.msgBox("Wskaż delegację w tabeli delegacji miesiąca.", Buttons::OK, Icon::Exclamation, "Delegacje");
@@ -494,7 +494,7 @@ void DelegacjeScreen::CmdEdytujDelegacje() {
     guarded([&] { pokazDelegacje(czytaj(plikiMiesiaca[static_cast<std::size_t>(r - 1)])); });
 }
 
-void DelegacjeScreen::CmdUsuNDelegacje() {
+void DelegacjeScreen::CmdUsuNDelegacje_Click() {
     int r = MSFlexGrid2.Row;
     if (r < 1 || r >= MSFlexGrid2.Rows) {
         ui.msgBox("Wskaż delegację w tabeli delegacji miesiąca.", Buttons::OK, Icon::Exclamation, "Delegacje");
@@ -510,11 +510,11 @@ void DelegacjeScreen::CmdUsuNDelegacje() {
             throw core::Error(core::err::PathFileAccess, "CmdUsuNDelegacje", plikiMiesiaca[static_cast<std::size_t>(r - 1)]);
         ui.msgBox("Usunieto delegacje nr" + nr, Buttons::OK, Icon::Information, "Usunieto");
         if (txtNrDel.Text == nr) txtNrDel.Text.clear();
-        CmdOdswierz();
+        CmdOdswierz_Click();
     });
 }
 
-void DelegacjeScreen::CmdDrukujRozliczenie() {
+void DelegacjeScreen::CmdDrukujRozliczenie_Click() {
     if (MSFlexGrid3.Rows <= 1) {
         ui.msgBox("Brak wpisanej jakiejkolwiek pozycji!", Buttons::OK, Icon::Exclamation, kZastanowSie);
         return;
@@ -527,7 +527,7 @@ void DelegacjeScreen::CmdDrukujRozliczenie() {
     guarded([&] { drukujRozliczenie(ui.printer(), delegacja()); });
 }
 
-void DelegacjeScreen::cmdDrukujZestawienie() {
+void DelegacjeScreen::cmdDrukujZestawienie_Click() {
     guarded([&] { drukujZestawienie(ui.printer(), miesiacTekst, wczytajMiesiac(s, RRmm)); });
 }
 

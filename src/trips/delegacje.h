@@ -26,21 +26,21 @@ public:
 
     void MSFlexGrid1_Click();  // the person of the trip
     void MonthView2_Click();   // the month of the list of trips
-    void CmdOdswierz();        // every trip of the chosen month
+    void CmdOdswierz_Click();        // every trip of the chosen month
     void cmbKraj_Click();
     void cmbWaluta_Click();
     // The times shown as the program shows them and the position worked out; false when refused.
-    bool cmdPrzelicz();
-    void cmdDodajPozycje();
-    void cmdZapiszPozycje();  // the changed position into the chosen row
+    bool cmdPrzelicz_Click();
+    void cmdDodajPozycje_Click();
+    void cmdZapiszPozycje_Click();  // the changed position into the chosen row
     void MSFlexGrid3_Click();
-    void CmdUsunPozycje();
+    void CmdUsunPozycje_Click();
     void przeliczRazem();  // the totals of the trip
-    void cmdZapiszDelegacje();
-    void CmdEdytujDelegacje();
-    void CmdUsuNDelegacje();
-    void CmdDrukujRozliczenie();
-    void cmdDrukujZestawienie();
+    void cmdZapiszDelegacje_Click();
+    void CmdEdytujDelegacje_Click();
+    void CmdUsuNDelegacje_Click();
+    void CmdDrukujRozliczenie_Click();
+    void cmdDrukujZestawienie_Click();
 
     core::Session& s;
     // The chosen person.
@@ -55,7 +55,7 @@ public:
     core::Control fraMiesiac{this, "fraMiesiac", core::Kind::Frame, "Delegacje miesiąca"};
     core::Control MonthView2{this, "MonthView2", core::Kind::MonthView};
     core::Control lbMiesiac{this, "lbMiesiac", core::Kind::Label};
-    core::Control CmdOdswierz_{this, "CmdOdswierz", core::Kind::CommandButton, "&Wszystkie"};
+    core::Control CmdOdswierz{this, "CmdOdswierz", core::Kind::CommandButton, "&Wszystkie"};
     core::Control MSFlexGrid2{this, "MSFlexGrid2", core::Kind::Grid};
 
     core::Control fraDelegacja{this, "fraDelegacja", core::Kind::Frame, "Delegacja"};
@@ -81,10 +81,10 @@ public:
     core::Control lbWartoscWaluty{this, "lbWartoscWaluty", core::Kind::Label};
     core::Control lbKurs{this, "lbKurs", core::Kind::Label};
     core::Control lbWartoscPLN{this, "lbWartoscPLN", core::Kind::Label};
-    core::Control cmdPrzelicz_{this, "cmdPrzelicz", core::Kind::CommandButton, "&Przelicz"};
-    core::Control cmdDodajPozycje_{this, "cmdDodajPozycje", core::Kind::CommandButton, "&Dodaj pozycję"};
-    core::Control cmdZapiszPozycje_{this, "cmdZapiszPozycje", core::Kind::CommandButton, "&Zmień pozycję"};
-    core::Control CmdUsunPozycje_{this, "CmdUsuńPozycje", core::Kind::CommandButton, "&Usuń pozycję"};
+    core::Control cmdPrzelicz{this, "cmdPrzelicz", core::Kind::CommandButton, "&Przelicz"};
+    core::Control cmdDodajPozycje{this, "cmdDodajPozycje", core::Kind::CommandButton, "&Dodaj pozycję"};
+    core::Control cmdZapiszPozycje{this, "cmdZapiszPozycje", core::Kind::CommandButton, "&Zmień pozycję"};
+    core::Control CmdUsunPozycje{this, "CmdUsuńPozycje", core::Kind::CommandButton, "&Usuń pozycję"};
     core::Control MSFlexGrid3{this, "MSFlexGrid3", core::Kind::Grid};
 
     core::Control fraKoszty{this, "fraKoszty", core::Kind::Frame, "Rozliczenie"};
@@ -97,12 +97,12 @@ public:
     core::Control LbOgolem{this, "LbOgolem", core::Kind::Label, "Do wypłaty"};
     core::Control txtDoWyplaty{this, "txtDoWyplaty", core::Kind::TextBox};
 
-    core::Control cmdZapiszDelegacje_{this, "cmdZapiszDelegacje", core::Kind::CommandButton, "&Zapisz delegację"};
-    core::Control CmdEdytujDelegacje_{this, "CmdEdytujDelegacje", core::Kind::CommandButton, "&Edytuj"};
-    core::Control CmdUsuNDelegacje_{this, "CmdUsuNDelegacje", core::Kind::CommandButton, "Usuń &delegację"};
-    core::Control CmdDrukujRozliczenie_{this, "CmdDrukujRozliczenie", core::Kind::CommandButton, "Drukuj &rozliczenie"};
-    core::Control cmdDrukujZestawienie_{this, "cmdDrukujZestawienie", core::Kind::CommandButton, "Drukuj ze&stawienie"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdZapiszDelegacje{this, "cmdZapiszDelegacje", core::Kind::CommandButton, "&Zapisz delegację"};
+    core::Control CmdEdytujDelegacje{this, "CmdEdytujDelegacje", core::Kind::CommandButton, "&Edytuj"};
+    core::Control CmdUsuNDelegacje{this, "CmdUsuNDelegacje", core::Kind::CommandButton, "Usuń &delegację"};
+    core::Control CmdDrukujRozliczenie{this, "CmdDrukujRozliczenie", core::Kind::CommandButton, "Drukuj &rozliczenie"};
+    core::Control cmdDrukujZestawienie{this, "cmdDrukujZestawienie", core::Kind::CommandButton, "Drukuj ze&stawienie"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 
 private:
     Wyjazd wyjazd() const;

@@ -106,14 +106,14 @@ EdycjaKartotekiScreen::EdycjaKartotekiScreen(core::Dialogs& ui, core::Session& s
     MSFlexGrid1.at(1, 0, 4).width(90);
     lbPole.at(2, 0, 4);
     txtWartosc.at(3, 0, 2).label("Nowa wartość:").width(40);
-    cmdZmien_.at(3, 2);
-    cmdZapisz_.at(4, 0);
-    cmdKoniec_.at(4, 3);
+    cmdZmien.at(3, 2);
+    cmdZapisz.at(4, 0);
+    cmdKoniec.at(4, 3);
     MSFlexGrid1.Click = [this] { MSFlexGrid1_Click(); };
-    txtWartosc.KeyEnter = [this] { cmdZmien(); };
-    cmdZmien_.Click = [this] { cmdZmien(); };
-    cmdZapisz_.Click = [this] { cmdZapisz(); };
-    cmdKoniec_.Click = [this] { Unload(); };
+    txtWartosc.KeyEnter = [this] { cmdZmien_Click(); };
+    cmdZmien.Click = [this] { cmdZmien_Click(); };
+    cmdZapisz.Click = [this] { cmdZapisz_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
     MSFlexGrid1.setGrid(1, 3);
     MSFlexGrid1.Cells[0] = {"Nr", "Pole", "Wartość"};
     MSFlexGrid1.ColWidth = {4, 26, 40};
@@ -153,7 +153,7 @@ void EdycjaKartotekiScreen::MSFlexGrid1_Click() {
     txtWartosc.Text = MSFlexGrid1.TextMatrix(n, 2);
 }
 
-void EdycjaKartotekiScreen::cmdZmien() {
+void EdycjaKartotekiScreen::cmdZmien_Click() {
     const int n = MSFlexGrid1.Row;
     if (n < 1 || n > K::Count) {
         ui.msgBox("Najpierw wybierz w tabeli pole do zmiany.", Buttons::OK, Icon::Exclamation, kTytul);
@@ -167,7 +167,7 @@ void EdycjaKartotekiScreen::cmdZmien() {
     MSFlexGrid1.TextMatrix(n, 2) = txtWartosc.Text;
 }
 
-void EdycjaKartotekiScreen::cmdZapisz() {
+void EdycjaKartotekiScreen::cmdZapisz_Click() {
     if (zmiany.empty()) {
         ui.msgBox("Nie zmieniono żadnego pola.", Buttons::OK, Icon::Information, kTytul);
         return;

@@ -39,8 +39,8 @@ public:
     // A row of the grid chosen: its value goes to txtWartosc.
     void MSFlexGrid1_Click();
     // The typed value into the chosen row (refused with a box when the field cannot take it).
-    void cmdZmien();
-    void cmdZapisz();
+    void cmdZmien_Click();
+    void cmdZapisz_Click();
 
     core::Session& s;
     std::string RRmm;
@@ -52,9 +52,9 @@ public:
     core::Control MSFlexGrid1{this, "MSFlexGrid1", core::Kind::Grid};
     core::Control lbPole{this, "lbPole", core::Kind::Label};
     core::Control txtWartosc{this, "txtWartosc", core::Kind::TextBox};
-    core::Control cmdZmien_{this, "cmdZmien", core::Kind::CommandButton, "&Zmień pole"};
-    core::Control cmdZapisz_{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz kartotekę"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdZmien{this, "cmdZmien", core::Kind::CommandButton, "&Zmień pole"};
+    core::Control cmdZapisz{this, "cmdZapisz", core::Kind::CommandButton, "&Zapisz kartotekę"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
 };
 
 }  // namespace yearledger

@@ -30,41 +30,41 @@ KartotekaRocznaScreen::KartotekaRocznaScreen(core::Dialogs& ui, core::Session& s
     lbNaglowek.at(0, 0, 6);
     lbRok.at(0, 6, 2);
     MSFlexGrid1.at(1, 0, 8).width(150);
-    cmdUsun1Kartoteke_.at(2, 0);
-    cmdEdycjaK_.at(2, 1);
-    cmdGodziny_.at(2, 2);
-    CmdDodatkowe_.at(2, 3);
-    cmdTrzynastka_.at(2, 4);
-    CmdDrukowanie_.at(2, 5);
-    CmdPit11_.at(2, 6);
-    cmdKoniec_.at(2, 7);
+    cmdUsun1Kartoteke.at(2, 0);
+    cmdEdycjaK.at(2, 1);
+    cmdGodziny.at(2, 2);
+    CmdDodatkowe.at(2, 3);
+    cmdTrzynastka.at(2, 4);
+    CmdDrukowanie.at(2, 5);
+    CmdPit11.at(2, 6);
+    cmdKoniec.at(2, 7);
     MSFlexGrid9.at(3, 0, 7).width(150);
-    CmdWylaczGodziny_.at(3, 7);
+    CmdWylaczGodziny.at(3, 7);
     MSFlexGrid8.at(4, 0, 7).width(150);
-    cmdWylaczDodatki_.at(4, 7);
+    cmdWylaczDodatki.at(4, 7);
     MSFlexGrid7.at(5, 0, 7).width(150);
-    for (core::Control* g : {&MSFlexGrid9, &CmdWylaczGodziny_, &MSFlexGrid8, &cmdWylaczDodatki_, &MSFlexGrid7})
+    for (core::Control* g : {&MSFlexGrid9, &CmdWylaczGodziny, &MSFlexGrid8, &cmdWylaczDodatki, &MSFlexGrid7})
         g->Visible = false;
-    cmdUsun1Kartoteke_.tip("Zeruje kwoty osoby w kartotece miesiąca zaznaczonego w tabeli");
-    cmdEdycjaK_.tip("Poprawianie pól kartoteki miesiąca zaznaczonego w tabeli");
+    cmdUsun1Kartoteke.tip("Zeruje kwoty osoby w kartotece miesiąca zaznaczonego w tabeli");
+    cmdEdycjaK.tip("Poprawianie pól kartoteki miesiąca zaznaczonego w tabeli");
 
-    cmdUsun1Kartoteke_.Click = [this] { cmdUsun1Kartoteke(); };
-    cmdTrzynastka_.Click = [this] { cmdTrzynastka(); };
-    cmdGodziny_.Click = [this] { cmdGodziny(); };
-    CmdDodatkowe_.Click = [this] { CmdDodatkowe(); };
-    cmdEdycjaK_.Click = [this] { cmdEdycjaK(); };
-    CmdDrukowanie_.Click = [this] { CmdDrukowanie(); };
-    CmdPit11_.Click = [this] { CmdPit11(); };
-    cmdKoniec_.Click = [this] { Unload(); };
-    CmdWylaczGodziny_.Click = [this] { MSFlexGrid9.Visible = CmdWylaczGodziny_.Visible = false; };
-    cmdWylaczDodatki_.Click = [this] {
-        MSFlexGrid8.Visible = MSFlexGrid7.Visible = cmdWylaczDodatki_.Visible = false;
+    cmdUsun1Kartoteke.Click = [this] { cmdUsun1Kartoteke_Click(); };
+    cmdTrzynastka.Click = [this] { cmdTrzynastka_Click(); };
+    cmdGodziny.Click = [this] { cmdGodziny_Click(); };
+    CmdDodatkowe.Click = [this] { CmdDodatkowe_Click(); };
+    cmdEdycjaK.Click = [this] { cmdEdycjaK_Click(); };
+    CmdDrukowanie.Click = [this] { CmdDrukowanie_Click(); };
+    CmdPit11.Click = [this] { CmdPit11_Click(); };
+    cmdKoniec.Click = [this] { Unload(); };
+    CmdWylaczGodziny.Click = [this] { MSFlexGrid9.Visible = CmdWylaczGodziny.Visible = false; };
+    cmdWylaczDodatki.Click = [this] {
+        MSFlexGrid8.Visible = MSFlexGrid7.Visible = cmdWylaczDodatki.Visible = false;
     };
 }
 
 void KartotekaRocznaScreen::Load() {
-    CmdPit11_.Enabled = ui.canOpen(kEkranPit11);
-    if (!CmdPit11_.Enabled) CmdPit11_.ToolTipText = "Informacja PIT-11 nie jest jeszcze dostępna w tej wersji programu";
+    CmdPit11.Enabled = ui.canOpen(kEkranPit11);
+    if (!CmdPit11.Enabled) CmdPit11.ToolTipText = "Informacja PIT-11 nie jest jeszcze dostępna w tej wersji programu";
     lbNaglowek.Caption = s.NazwiskoOsoby + " " + s.ImieOsoby + "  Pesel = " + s.KluczOsoby + "  Grupa= " + s.Grupa;
     lbRok.Caption = s.rok();
     guarded([&] { wczytaj(); });
@@ -84,7 +84,7 @@ int KartotekaRocznaScreen::wybranyMiesiac() const {
     return MSFlexGrid1.Row >= 1 && MSFlexGrid1.Row <= 12 ? MSFlexGrid1.Row : 0;
 }
 
-void KartotekaRocznaScreen::cmdUsun1Kartoteke() {
+void KartotekaRocznaScreen::cmdUsun1Kartoteke_Click() {
     const int m = wybranyMiesiac();
     if (m == 0) {
         ui.msgBox("Najpierw zaznacz w tabeli wiersz miesiąca.", Buttons::OK, Icon::Exclamation, "Kartoteka Roczna");
@@ -104,23 +104,23 @@ void KartotekaRocznaScreen::cmdUsun1Kartoteke() {
     });
 }
 
-void KartotekaRocznaScreen::cmdGodziny() {
+void KartotekaRocznaScreen::cmdGodziny_Click() {
     wypelnijSiatke(MSFlexGrid9, siatkaGodzin(dane, s.stawki));
-    MSFlexGrid9.Visible = CmdWylaczGodziny_.Visible = true;
+    MSFlexGrid9.Visible = CmdWylaczGodziny.Visible = true;
 }
 
-void KartotekaRocznaScreen::CmdDodatkowe() {
+void KartotekaRocznaScreen::CmdDodatkowe_Click() {
     wypelnijSiatke(MSFlexGrid8, siatkaDodatkow(dane, s.stawki));
-    MSFlexGrid8.Visible = cmdWylaczDodatki_.Visible = true;
+    MSFlexGrid8.Visible = cmdWylaczDodatki.Visible = true;
 }
 
-void KartotekaRocznaScreen::cmdTrzynastka() {
+void KartotekaRocznaScreen::cmdTrzynastka_Click() {
     wypelnijSiatke(MSFlexGrid7, siatkaTrzynastki(dane, s.stawki));
-    MSFlexGrid7.Visible = cmdWylaczDodatki_.Visible = true;
+    MSFlexGrid7.Visible = cmdWylaczDodatki.Visible = true;
     if (!dane.jestTrzynastka) ui.msgBox(kBrakTrzynastki, Buttons::OK, Icon::Information, "Kartoteka Roczna");
 }
 
-void KartotekaRocznaScreen::cmdEdycjaK() {
+void KartotekaRocznaScreen::cmdEdycjaK_Click() {
     const int m = wybranyMiesiac();
     if (m == 0) {
         ui.msgBox("Najpierw zaznacz w tabeli wiersz miesiąca do poprawienia.", Buttons::OK, Icon::Exclamation,
@@ -132,10 +132,10 @@ void KartotekaRocznaScreen::cmdEdycjaK() {
     guarded([&] { wczytaj(); });
 }
 
-void KartotekaRocznaScreen::CmdDrukowanie() {
+void KartotekaRocznaScreen::CmdDrukowanie_Click() {
     yearledger::CmdDrukowanie(ui, dane, {s.NazwiskoOsoby + " " + s.ImieOsoby, s.KodUbezpieczeniaOsoby}, s.stawki);
 }
 
-void KartotekaRocznaScreen::CmdPit11() { ui.open(kEkranPit11, s); }
+void KartotekaRocznaScreen::CmdPit11_Click() { ui.open(kEkranPit11, s); }
 
 }  // namespace yearledger

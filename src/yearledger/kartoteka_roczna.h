@@ -20,13 +20,13 @@ public:
     KartotekaRocznaScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
 
-    void cmdUsun1Kartoteke();
-    void cmdTrzynastka();
-    void cmdGodziny();
-    void CmdDodatkowe();
-    void cmdEdycjaK();
-    void CmdDrukowanie();
-    void CmdPit11();
+    void cmdUsun1Kartoteke_Click();
+    void cmdTrzynastka_Click();
+    void cmdGodziny_Click();
+    void CmdDodatkowe_Click();
+    void cmdEdycjaK_Click();
+    void CmdDrukowanie_Click();
+    void CmdPit11_Click();
     // The month (1..12) of the grid's selected row, or 0.
     int wybranyMiesiac() const;
 
@@ -36,18 +36,18 @@ public:
     core::Control lbNaglowek{this, "lbNaglowek", core::Kind::Label};
     core::Control lbRok{this, "lbRok", core::Kind::Label};
     core::Control MSFlexGrid1{this, "MSFlexGrid1", core::Kind::Grid};
-    core::Control cmdUsun1Kartoteke_{this, "cmdUsun1Kartoteke", core::Kind::CommandButton, "Usuń zaznaczoną kartoteke"};
-    core::Control cmdTrzynastka_{this, "cmdTrzynastka", core::Kind::CommandButton, "&Trzynastka Swiadczenia  Jubileusze"};
-    core::Control cmdGodziny_{this, "cmdGodziny", core::Kind::CommandButton, "&Godziny"};
-    core::Control CmdDodatkowe_{this, "CmdDodatkowe", core::Kind::CommandButton, "D&odatki"};
-    core::Control cmdEdycjaK_{this, "cmdEdycjaK", core::Kind::CommandButton, "&Edycja kartoteki"};
-    core::Control CmdDrukowanie_{this, "CmdDrukowanie", core::Kind::CommandButton, "&Drukowanie kartoteki"};
-    core::Control CmdPit11_{this, "CmdPit11", core::Kind::CommandButton, "&Pit11"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
+    core::Control cmdUsun1Kartoteke{this, "cmdUsun1Kartoteke", core::Kind::CommandButton, "Usuń zaznaczoną kartoteke"};
+    core::Control cmdTrzynastka{this, "cmdTrzynastka", core::Kind::CommandButton, "&Trzynastka Swiadczenia  Jubileusze"};
+    core::Control cmdGodziny{this, "cmdGodziny", core::Kind::CommandButton, "&Godziny"};
+    core::Control CmdDodatkowe{this, "CmdDodatkowe", core::Kind::CommandButton, "D&odatki"};
+    core::Control cmdEdycjaK{this, "cmdEdycjaK", core::Kind::CommandButton, "&Edycja kartoteki"};
+    core::Control CmdDrukowanie{this, "CmdDrukowanie", core::Kind::CommandButton, "&Drukowanie kartoteki"};
+    core::Control CmdPit11{this, "CmdPit11", core::Kind::CommandButton, "&Pit11"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "&Koniec"};
     core::Control MSFlexGrid9{this, "MSFlexGrid9", core::Kind::Grid};
-    core::Control CmdWylaczGodziny_{this, "CmdWylaczGodziny", core::Kind::CommandButton, "Ukryj godziny"};
+    core::Control CmdWylaczGodziny{this, "CmdWylaczGodziny", core::Kind::CommandButton, "Ukryj godziny"};
     core::Control MSFlexGrid8{this, "MSFlexGrid8", core::Kind::Grid};
-    core::Control cmdWylaczDodatki_{this, "cmdWylaczDodatki", core::Kind::CommandButton, "Ukryj dodatki"};
+    core::Control cmdWylaczDodatki{this, "cmdWylaczDodatki", core::Kind::CommandButton, "Ukryj dodatki"};
     core::Control MSFlexGrid7{this, "MSFlexGrid7", core::Kind::Grid};
 
 private:

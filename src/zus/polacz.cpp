@@ -30,8 +30,6 @@ static_assert(D::KwotaBrutto == 6 && D::StawkaPodatku == 10 && D::Il1 == 17 && D
 
 namespace {
 
-constexpr std::size_t kMaxList = 70;
-
 // The key of a person in the ledger and in the supplementary files.
 struct Klucz {
     std::string nazwisko, imie, identyfikator, kod;
@@ -235,13 +233,8 @@ std::string grupaBiezacejListy(const core::Session& s) {
 
 std::vector<std::string> listyDoPolaczenia(const core::Session& s, const std::string& zestawy) {
     std::vector<std::string> listy;
-    for (const Record& w : reference::Instal::read(s)) {
-        // The catalogue keeps a list without a set letter as one blank: it is searched as empty
-        // and so found at once.
-        if (core::InStr(zestawy, core::RTrim(w.s(reference::Instal::ZestawListy))) == 0) continue;
-        if (listy.size() == kMaxList) break;
+    for (const Record& w : reference::Instal::listyZestawu(reference::Instal::read(s), zestawy))
         listy.push_back(core::PadRight(w.s(reference::Instal::Skrotlisty), 8));
-    }
     return listy;
 }
 

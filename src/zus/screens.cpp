@@ -25,13 +25,13 @@ DoZUSScreen::DoZUSScreen(core::Dialogs& ui, core::Session& session)
     Label1.Caption = "  Uwaga ! aby wykonać DRA i RCA najpierw połacz zbior i  posortuj";
     txtZestawZUS.at(1, 0).label("Zestawy list:").width(8);
     txtZestawZUS.tip("W przypadku wypłat w róznych terminach wpisz litery poszczególnych zestawów np. AB");
-    cmdZachowaj_.at(1, 1);
+    cmdZachowaj.at(1, 1);
     chkDolaczTrzynastke.at(1, 2);
     txtTerminPlatnosci.at(2, 0).label("Termin Płatności składek ZUS").width(4);
-    CmdPolacz_.at(3, 0, 3);
-    CmdPodgladRCP_.at(4, 0, 3);
-    CmdWykonajRCA_.at(5, 0, 3);
-    CmdWykonajRCA_.tip("Wykonuje Kod Dokumentu Ubezpieczeniowego do płatnika");
+    CmdPolacz.at(3, 0, 3);
+    CmdPodgladRCP.at(4, 0, 3);
+    CmdWykonajRCA.at(5, 0, 3);
+    CmdWykonajRCA.tip("Wykonuje Kod Dokumentu Ubezpieczeniowego do płatnika");
     cmdZUA.at(6, 0, 3);
     cmdZUA.tip("Plik zgłoszeń ZUA wszystkich osób bieżącej listy płac (katalog Zgloszeniowe)");
     ProgressBar1.at(7, 0, 3);
@@ -40,10 +40,10 @@ DoZUSScreen::DoZUSScreen(core::Dialogs& ui, core::Session& session)
     Label7.at(9, 0, 3);
     Command2.at(10, 2);
 
-    cmdZachowaj_.Click = [this] { cmdZachowaj(); };
-    CmdPolacz_.Click = [this] { CmdPolacz(); };
-    CmdPodgladRCP_.Click = [this] { CmdPodgladRCP(); };
-    CmdWykonajRCA_.Click = [this] { CmdWykonajRCA(); };
+    cmdZachowaj.Click = [this] { cmdZachowaj_Click(); };
+    CmdPolacz.Click = [this] { CmdPolacz_Click(); };
+    CmdPodgladRCP.Click = [this] { CmdPodgladRCP_Click(); };
+    CmdWykonajRCA.Click = [this] { CmdWykonajRCA_Click(); };
     cmdZUA.Click = [this] { this->ui.open("FrmZUA", s); };
     Command2.Click = [this] { Unload(); };
 }
@@ -51,7 +51,7 @@ DoZUSScreen::DoZUSScreen(core::Dialogs& ui, core::Session& session)
 void DoZUSScreen::Load() {
     txtZestawZUS.Text = zapisaneZestawy(s);
     txtTerminPlatnosci.Text = s.Firma.valid() ? s.Firma.s(reference::Firma::TerminPlatnosciZUSM) : std::string();
-    CmdPodgladRCP_.Enabled = ui.canOpen("frmRCP");
+    CmdPodgladRCP.Enabled = ui.canOpen("frmRCP");
     cmdZUA.Enabled = !s.NazwaZbioru.empty() && ui.canOpen("FrmZUA");
 }
 
@@ -74,25 +74,25 @@ bool DoZUSScreen::zestawDobry() {
     return false;
 }
 
-void DoZUSScreen::cmdZachowaj() {
+void DoZUSScreen::cmdZachowaj_Click() {
     if (zestawDobry()) zus::cmdZachowaj(s, txtZestawZUS.Text);
 }
 
-void DoZUSScreen::CmdPolacz() {
+void DoZUSScreen::CmdPolacz_Click() {
     if (!zestawDobry()) return;
-    CmdPodgladRCP_.Enabled = false;
+    CmdPodgladRCP.Enabled = false;
     ProgressBar1.Visible = true;
     ProgressBar1.Value = 0;
     DoEvents();
     const bool zrobione = cmdPolacz(s, ui, {txtZestawZUS.Text, chkDolaczTrzynastke.Value == 1}, postep());
     ProgressBar1.Visible = false;
-    CmdPodgladRCP_.Enabled = ui.canOpen("frmRCP");
+    CmdPodgladRCP.Enabled = ui.canOpen("frmRCP");
     if (zrobione) Label9.Caption = "Wykonane !";
 }
 
-void DoZUSScreen::CmdPodgladRCP() { ui.open("frmRCP", s); }
+void DoZUSScreen::CmdPodgladRCP_Click() { ui.open("frmRCP", s); }
 
-void DoZUSScreen::CmdWykonajRCA() {
+void DoZUSScreen::CmdWykonajRCA_Click() {
     if (!zestawDobry()) return;
     const auto wynik = cmdWykonajRCA(s, ui, {txtZestawZUS.Text, txtTerminPlatnosci.Text});
     if (!wynik) return;
@@ -107,12 +107,12 @@ RCPScreen::RCPScreen(core::Dialogs& ui, core::Session& session)
     : Form(ui, "frmRCP", "Zbiór RCP połączony do ZUS - podstawy, składki i zasiłki za "), s(session) {
     MSFlexGrid1.at(0, 0, 3).width(150);
     MSFlexGrid1.Mono = true;
-    cmdZapiszZmiany_.at(1, 0);
-    CmdDrukujRCA_.at(1, 1);
+    cmdZapiszZmiany.at(1, 0);
+    CmdDrukujRCA.at(1, 1);
     Command1.at(1, 2);
     MSFlexGrid1.Click = [this] { MSFlexGrid1_Click(); };
-    cmdZapiszZmiany_.Click = [this] { cmdZapiszZmiany(); };
-    CmdDrukujRCA_.Click = [this] { CmdDrukujRCA(); };
+    cmdZapiszZmiany.Click = [this] { cmdZapiszZmiany_Click(); };
+    CmdDrukujRCA.Click = [this] { CmdDrukujRCA_Click(); };
     Command1.Click = [this] { Unload(); };
 }
 
@@ -124,12 +124,12 @@ void RCPScreen::Load() {
         return;
     }
     reference::loadRates(s);
-    rekordy_ = Rcp::readAll(Rcp::path(s));
+    rekordy = Rcp::readAll(Rcp::path(s));
     pokaz();
 }
 
 void RCPScreen::pokaz() {
-    const auto tabela = tabelaRCP(s, rekordy_);
+    const auto tabela = tabelaRCP(s, rekordy);
     MSFlexGrid1.setGrid(static_cast<int>(tabela.size()) + 1, kKolumnyRCP);
     MSFlexGrid1.ColWidth.clear();
     for (int k = 0; k < kKolumnyRCP; ++k) {
@@ -145,7 +145,7 @@ void RCPScreen::pokaz() {
 
 void RCPScreen::MSFlexGrid1_Click() {
     const int r = MSFlexGrid1.Row, k = MSFlexGrid1.Col;
-    if (r < 1 || r > static_cast<int>(rekordy_.size()) || k < 0 || k >= kKolumnyRCP || poleKolumny(k) == 0) return;
+    if (r < 1 || r > static_cast<int>(rekordy.size()) || k < 0 || k >= kKolumnyRCP || poleKolumny(k) == 0) return;
     std::string& komorka = MSFlexGrid1.TextMatrix(r, k);
     const auto nowa = ui.inputBox("Podaj zmienioną wartość z pozycji -" + core::Trim(kNaglowkiRCP[k]) + " pozycja " +
                                       std::to_string(r) + " wartość zmieniana = " + komorka,
@@ -157,25 +157,25 @@ void RCPScreen::MSFlexGrid1_Click() {
         return;
     }
     std::vector<std::vector<std::string>> wiersze;
-    for (int i = 1; i <= static_cast<int>(rekordy_.size()); ++i) {
+    for (int i = 1; i <= static_cast<int>(rekordy.size()); ++i) {
         std::vector<std::string> w;
         for (int c = 0; c < kKolumnyRCP; ++c) w.push_back(i == r && c == k ? *nowa : MSFlexGrid1.TextMatrix(i, c));
         wiersze.push_back(std::move(w));
     }
-    zmienRekordy(rekordy_, wiersze);
+    zmienRekordy(rekordy, wiersze);
     pokaz();
 }
 
-void RCPScreen::cmdZapiszZmiany() {
-    zapiszRCP(s, rekordy_);
+void RCPScreen::cmdZapiszZmiany_Click() {
+    zapiszRCP(s, rekordy);
 }
 
-void RCPScreen::CmdDrukujRCA() {
+void RCPScreen::CmdDrukujRCA_Click() {
     if (!core::fileExists(Rcp::path(s))) {
         core::MsgBox(ui, "Zestawienie to można wykonać tylko po wykonaniu zestawu RCP do ZUS !");
         return;
     }
-    drukujRCA(ui.printer(), tabelaRCP(s, rekordy_));
+    drukujRCA(ui.printer(), tabelaRCP(s, rekordy));
 }
 
 // ---------------------------------------------------------------- FrmZUA
@@ -183,16 +183,16 @@ void RCPScreen::CmdDrukujRCA() {
 ZUAScreen::ZUAScreen(core::Dialogs& ui, core::Session& session)
     : Form(ui, "FrmZUA", "Zgłoszenia ZUA osób listy płac"), s(session) {
     lbLista.at(0, 0, 2);
-    CmdZUA_.at(1, 0);
+    CmdZUA.at(1, 0);
     Command2.at(1, 1);
     lbWynik.at(2, 0, 2);
-    CmdZUA_.Click = [this] { CmdZUA(); };
+    CmdZUA.Click = [this] { CmdZUA_Click(); };
     Command2.Click = [this] { Unload(); };
 }
 
 void ZUAScreen::Load() { lbLista.Caption = "Lista płac: " + core::Trim(s.NazwaListy) + " (" + s.NazwaZbioru + ")"; }
 
-void ZUAScreen::CmdZUA() {
+void ZUAScreen::CmdZUA_Click() {
     if (const auto plik = cmdZUA(s, ui)) lbWynik.Caption = "Plik: " + plik->string();
 }
 

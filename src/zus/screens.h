@@ -16,22 +16,22 @@ class DoZUSScreen : public core::Form {
 public:
     DoZUSScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void cmdZachowaj();
-    void CmdPolacz();
-    void CmdPodgladRCP();
-    void CmdWykonajRCA();
+    void cmdZachowaj_Click();
+    void CmdPolacz_Click();
+    void CmdPodgladRCP_Click();
+    void CmdWykonajRCA_Click();
 
     core::Session& s;
     core::Control Label1{this, "Label1", core::Kind::Label};
     core::Control txtZestawZUS{this, "txtZestawZUS", core::Kind::TextBox};
-    core::Control cmdZachowaj_{this, "cmdZachowaj", core::Kind::CommandButton, "&Zachowaj"};
+    core::Control cmdZachowaj{this, "cmdZachowaj", core::Kind::CommandButton, "&Zachowaj"};
     core::Control chkDolaczTrzynastke{this, "chkDolaczTrzynastke", core::Kind::CheckBox, "Dołącz trzynastkę"};
     core::Control txtTerminPlatnosci{this, "txtTerminPlatnosci", core::Kind::TextBox};
-    core::Control CmdPolacz_{this, "CmdPolacz", core::Kind::CommandButton,
+    core::Control CmdPolacz{this, "CmdPolacz", core::Kind::CommandButton,
                              "&Połącz i sortuj zbiór do Płatnika ZUS (RCP)"};
-    core::Control CmdPodgladRCP_{this, "CmdPodgladRCP", core::Kind::CommandButton,
+    core::Control CmdPodgladRCP{this, "CmdPodgladRCP", core::Kind::CommandButton,
                                  "&Zbiór RCP - podgląd i aktualizacja"};
-    core::Control CmdWykonajRCA_{this, "CmdWykonajRCA", core::Kind::CommandButton, "&Wykonaj (KDU) DRA , RCA,  RSA, RZA"};
+    core::Control CmdWykonajRCA{this, "CmdWykonajRCA", core::Kind::CommandButton, "&Wykonaj (KDU) DRA , RCA,  RSA, RZA"};
     core::Control cmdZUA{this, "cmdZUA", core::Kind::CommandButton, "Zgłoszenia Z&UA osób bieżącej listy"};
     core::Control Command2{this, "Command2", core::Kind::CommandButton, "&Koniec"};
     core::Control ProgressBar1{this, "ProgressBar1", core::Kind::ProgressBar};
@@ -50,29 +50,29 @@ public:
     void Load() override;
     // A click on a cell of a record: the new value asked in an input box.
     void MSFlexGrid1_Click();
-    void cmdZapiszZmiany();
-    void CmdDrukujRCA();
+    void cmdZapiszZmiany_Click();
+    void CmdDrukujRCA_Click();
 
     core::Session& s;
     core::Control MSFlexGrid1{this, "MSFlexGrid1", core::Kind::Grid};
-    core::Control cmdZapiszZmiany_{this, "cmdZapiszZmiany", core::Kind::CommandButton, "&Zapisz zmiany"};
-    core::Control CmdDrukujRCA_{this, "CmdDrukujRCA", core::Kind::CommandButton, "&Drukuj zestawienie"};
+    core::Control cmdZapiszZmiany{this, "cmdZapiszZmiany", core::Kind::CommandButton, "&Zapisz zmiany"};
+    core::Control CmdDrukujRCA{this, "CmdDrukujRCA", core::Kind::CommandButton, "&Drukuj zestawienie"};
     core::Control Command1{this, "Command1", core::Kind::CommandButton, "&Koniec"};
 
 private:
     void pokaz();
-    std::vector<core::Record> rekordy_;
+    std::vector<core::Record> rekordy;
 };
 
 class ZUAScreen : public core::Form {
 public:
     ZUAScreen(core::Dialogs& ui, core::Session& s);
     void Load() override;
-    void CmdZUA();
+    void CmdZUA_Click();
 
     core::Session& s;
     core::Control lbLista{this, "lbLista", core::Kind::Label};
-    core::Control CmdZUA_{this, "CmdZUA", core::Kind::CommandButton, "&Wykonaj zgłoszenia ZUA"};
+    core::Control CmdZUA{this, "CmdZUA", core::Kind::CommandButton, "&Wykonaj zgłoszenia ZUA"};
     core::Control Command2{this, "Command2", core::Kind::CommandButton, "&Koniec"};
     core::Control lbWynik{this, "lbWynik", core::Kind::Label};
 };

@@ -25,7 +25,7 @@ TEST(DoBanku, GridEditSortFindDeleteAndSaveRenumbered) {
     f.Load();
     EXPECT_EQ(f.txtZestawZ.Text, "A");
     f.txtNrUnikatowy.Text = "1020";
-    f.CmdUtworzRor();
+    f.CmdUtworzRor_Click();
     ASSERT_EQ(f.MSFlexGrid1.Rows, 4);
     EXPECT_EQ(f.txtkwotaRazem.Text, "600.00");
 
@@ -37,18 +37,18 @@ TEST(DoBanku, GridEditSortFindDeleteAndSaveRenumbered) {
     EXPECT_EQ(f.MSFlexGrid1.TextMatrix(2, bank::DoBankuScreen::kKolKwota), "150.5");
     EXPECT_EQ(f.txtkwotaRazem.Text, "650.50");
 
-    f.cmdSort();
+    f.cmdSort_Click();
     EXPECT_EQ(kolumna(f.MSFlexGrid1, 1), (std::vector<std::string>{"ADAMSKA", "NOWAK", "ZIELIŃSKI"}));
     EXPECT_EQ(kolumna(f.MSFlexGrid1, 0), (std::vector<std::string>{"2", "3", "1"}));
 
     f.Text1.Text = "now";
-    f.cmdFindTxt();
+    f.cmdFindTxt_Click();
     EXPECT_EQ(f.Text1.Text, "NOW");
     EXPECT_EQ(f.Zaznaczony, 2);
-    f.CmdUsunRekord();
+    f.CmdUsunRekord_Click();
     EXPECT_EQ(f.txtkwotaRazem.Text, "450.50");
 
-    f.cmdZapiszPosortowany();
+    f.cmdZapiszPosortowany_Click();
     EXPECT_EQ(d.ui.last(), "[ Zapis posortowanego zbioru na dysk] Czy chcesz zmieniony zbior zapisać");
     const auto recs = Ror::readAll(Ror::path(d.s, "A"));
     ASSERT_EQ(recs.size(), 2u);
@@ -61,8 +61,8 @@ TEST(DoBanku, GridEditSortFindDeleteAndSaveRenumbered) {
     f.MSFlexGrid1.Row = 1;
     f.MSFlexGrid1.Col = 1;
     f.MSFlexGrid1_Click();
-    f.CmdUsunRekord();
-    f.CmdUsunRekord();
+    f.CmdUsunRekord_Click();
+    f.CmdUsunRekord_Click();
     EXPECT_EQ(d.ui.last(), "[] Nie ma co usuwać");
     EXPECT_EQ(f.MSFlexGrid1.Rows, 2);
 }
@@ -78,9 +78,9 @@ TEST(DoBanku, BrowsingAndSavingGiveTheSameBytes) {
     const std::string przed = testing_support::readBytes(plik);
     bank::DoBankuScreen f(d.ui, d.s);
     f.Load();
-    f.cmdPrzegladaj();
+    f.cmdPrzegladaj_Click();
     EXPECT_EQ(f.txtkwotaRazem.Text, "1700.85");
-    f.cmdZapiszPosortowany();
+    f.cmdZapiszPosortowany_Click();
     EXPECT_EQ(testing_support::readBytes(plik), przed);
 }
 

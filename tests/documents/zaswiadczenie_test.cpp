@@ -136,22 +136,22 @@ TEST(Zaswiadczenie, ScreenNeedsTheHrRecordAndPrintsOneMonthOrAPeriod) {
     Dane d;
     ZaswiadczeniaScreen f(d.ui, d.s);
     f.Load();
-    EXPECT_FALSE(f.cmdPobierzDane());
+    EXPECT_FALSE(f.cmdPobierzDane_Click());
     EXPECT_EQ(d.ui.last(), "[Brak okresu zatrudnienia!] Nie uzupelniono danych w placa>kadrowe II ");
     d.kadry();
     f.txtODData.Text = "12";
     d.ui.answer(core::Answer::Yes);
-    EXPECT_FALSE(f.cmdPobierzDane());
+    EXPECT_FALSE(f.cmdPobierzDane_Click());
     EXPECT_EQ(d.ui.last(), "[Zle wpisana data!] Podaj date w formacie dd-mm-RRRR ");
 
     // One month; the purpose left empty.
     f.txtODData.Text = f.txtDoData.Text = "1220";
-    ASSERT_TRUE(f.cmdPobierzDane());
+    ASSERT_TRUE(f.cmdPobierzDane_Click());
     EXPECT_EQ(f.MSFlexGrid1.Cells[1],
               (std::vector<std::string>{"12-2020", "1100.00", "150.81", "97.77", "70.00", "781.42", "250.00", "43.76"}));
     EXPECT_EQ(f.txtRazemBrutto.Text, "1100.00");
     d.ui.type(std::string());
-    f.cmdUstalonyOkres();
+    f.cmdUstalonyOkres_Click();
     EXPECT_EQ(d.ui.boxes.back().title, "Podaj przeznaczenie wydawanego zaświadczenia ");
     const std::string tekst = d.ui.paper.text();
     for (const char* w : {" W miesiącu 12-2020r otrzymała wynagrodzenie miesięczne brutto",

@@ -74,7 +74,7 @@ TEST(LeaveGui, SickPayWithCalendarAndHistory) {
         screen.wejscieOd(1);
     });
     EXPECT_TRUE(dlg.findChild<QCalendarWidget*>("MonthView1")->isVisibleTo(&dlg));
-    dlg.view()->runWork([&] { screen.cmdHistoriachorobowego(); });
+    dlg.view()->runWork([&] { screen.cmdHistoriachorobowego_Click(); });
     QTableWidget* h = siatka(dlg, "MSFlexGrid9");
     ASSERT_EQ(h->rowCount(), 1);  // the demo has no ledgers: the year's row alone
     EXPECT_EQ(h->item(0, 5)->background().color(), QColor(192, 255, 192));

@@ -15,7 +15,7 @@
 #include "reference/instalacja.h"
 #include "reference/mojafirma.h"
 #include "reference/payers.h"
-#include "reference/pomoc.h"
+#include "app/pomoc.h"
 #include "reference/wybor.h"
 #include "support/scripted.h"
 
@@ -100,7 +100,7 @@ TEST(PayersGui, WyborOpensTheChosenList) {
 TEST(PayersGui, HelpWindowShowsTheGuide) {
     gui_support::DemoSession demo;
     ScriptedDialogs ui;
-    reference::PomocScreen screen(ui, demo.session);
+    app::PomocScreen screen(ui, demo.session);
     gui::ScreenDialog dlg(screen, nullptr);
     dlg.view()->runWork([&] { screen.Load(); });
     auto* text = dlg.findChild<QPlainTextEdit*>("txtPomoc");

@@ -4,6 +4,10 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QFileSystemModel>
+#include <QTreeView>
+#include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include "core/text.h"
 #include "gui/mainwindow.h"
@@ -45,7 +49,7 @@ TEST(MainWindowGui, MenuEntriesFollowTheScreensThatExist) {
     core::Screens screens;
     gui::registerAllScreens(screens);
     ui.screens = &screens;
-    reference::PlaceScreen place(ui, demo.session);
+    app::PlaceScreen place(ui, demo.session);
     gui::MainWindow win(place);
     win.view()->runWork([&] { place.Load(); });
     win.view()->runWork([&] { place.Activate(); });
@@ -64,4 +68,22 @@ TEST(MainWindowGui, MenuEntriesFollowTheScreensThatExist) {
     EXPECT_EQ(win.findChild<QLineEdit*>("txtDataListyS")->text(), "31-01-2021");
     win.resize(760, 520);
     gui_support::grab(&win, "frmPlace");
+    // The folder tree, hidden at the start, has read nothing; shown, it holds the data folder.
+    auto* drzewo = win.findChild<QTreeView*>("dirFolder");
+    ASSERT_NE(drzewo, nullptr);
+    auto* model = static_cast<QFileSystemModel*>(drzewo->model());
+    EXPECT_TRUE(model->rootPath().isEmpty() || model->rootPath() == ".") << model->rootPath().toStdString();
+    win.view()->runWork([&] { place.Sciezka(); });
+    EXPECT_TRUE(drzewo->isVisibleTo(&win));
+    EXPECT_EQ(model->rootPath().toStdString(), QDir::cleanPath(QString::fromStdString(place.dirFolder.Text)).toStdString());
+    EXPECT_EQ(model->filePath(drzewo->rootIndex()), model->rootPath());
+    // The subfolders come in from the model's reader: the payer's folder among them.
+    QElapsedTimer czas;
+    czas.start();
+    while (model->rowCount(drzewo->rootIndex()) == 0 && czas.elapsed() < 5000) QCoreApplication::processEvents();
+    QStringList podfoldery;
+    for (int i = 0; i < model->rowCount(drzewo->rootIndex()); ++i)
+        podfoldery << model->fileName(model->index(i, 0, drzewo->rootIndex()));
+    EXPECT_TRUE(podfoldery.contains("DEMO")) << podfoldery.join(",").toStdString();
+    gui_support::grab(&win, "frmPlace-folder");
 }

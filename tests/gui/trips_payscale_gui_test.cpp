@@ -32,7 +32,7 @@ TEST(DelegacjeGui, ForeignTripOnTheScreen) {
         e.cmbKraj.Text = "Niemcy";
         e.cmbKraj_Click();
         e.txtKursWaluty.Text = "4,5721";
-        e.cmdDodajPozycje();
+        e.cmdDodajPozycje_Click();
         e.cmbNocleg.Text = "150";
         e.txtZaliczka.Text = "200";
         e.przeliczRazem();

@@ -39,7 +39,7 @@ TEST(SickPay, SavingComputesTheLinesAndWarnsPast33Days) {
         f.Load();
         f.txtBZP1Kod.Text = "151";
         l.ui.answer(core::Answer::Cancel);  // the answer cannot stop the save
-        f.cmdZapiszzmiany();
+        f.cmdZapiszzmiany_Click();
         EXPECT_TRUE(f.Unloaded);
         int okna = 0;
         for (const auto& b : l.ui.boxes)
@@ -68,7 +68,7 @@ TEST(SickPay, ALineSetToNoDaysLosesItsFields) {
     f.txtLiczbadni2.Text = "0";
     f.txtokresDo2.Text = "04032021";
     f.txtKodPrzerwy2.Text = "331";
-    f.cmdZapiszzmiany();
+    f.cmdZapiszzmiany_Click();
     const core::Record r = l.rekordPlacy();
     for (int pole : {Pay::okresOd2, Pay::okresDo2, Pay::KodPrzerwy2, Pay::Ch2Pr, Pay::SredniaCH2})
         EXPECT_EQ(r.s(pole), "") << r.fieldName(pole);
@@ -154,7 +154,7 @@ TEST(SickPay, HistoryOfTheYearFromTheLedgers) {
     l.karta("2103", 3000, {{2, "333"}, {0, ""}, {6, "121"}});
     ChoroboweScreen f(l.ui, l.s);
     f.Load();
-    f.cmdHistoriachorobowego();
+    f.cmdHistoriachorobowego_Click();
     const core::Control& g = f.MSFlexGrid9;
     ASSERT_EQ(g.Rows, 4);
     EXPECT_EQ(g.TextMatrix(1, 1), "28-01-2021");
@@ -171,7 +171,7 @@ TEST(SickPay, HistoryOfTheYearFromTheLedgers) {
     EXPECT_EQ(g.Style(3, 7).back, 0xC0FFC0);
     EXPECT_EQ(g.Style(2, 7).back, -1);
     EXPECT_EQ(f.lbLacznaIloscDni.Caption, "18");  // 2 on the screen, 8 and 8 of the rows shown
-    EXPECT_TRUE(f.cmdWylaczHistorie_.Visible);
+    EXPECT_TRUE(f.cmdWylaczHistorie.Visible);
 }
 
 TEST(SickPay, TransferToWorkingTimeStopsAtTheListsMonth) {
@@ -183,7 +183,7 @@ TEST(SickPay, TransferToWorkingTimeStopsAtTheListsMonth) {
     const std::string przed = readBytes(plik);
     ChoroboweScreen f(l.ui, l.s);
     f.Load();
-    f.cmdWprowadzDoCzasuPracy();
+    f.cmdWprowadzDoCzasuPracy_Click();
     EXPECT_TRUE(l.ui.boxes.empty());
     EXPECT_EQ(readBytes(plik), przed);
     const std::string tym = readBytes(plik.parent_path() / "CPL12021.tym ");

@@ -57,15 +57,15 @@ TEST(WorkingTime, MonthGridAndDefaults) {
     for (int d : {29, 30, 31}) EXPECT_EQ(e.kom(d, KolCP::NazwaDnia), "     X       ");
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::NazwaDnia), "Razem         ");
     EXPECT_EQ(e.f->MSFlexGrid1.Style(6, 2).back, 0xFFE0E0);  // Saturday 6 February
-    e.f->cmdWroc();
-    e.f->cmdWroc();
+    e.f->cmdWroc_Click();
+    e.f->cmdWroc_Click();
     EXPECT_EQ(e.f->miesiac, 12);
-    e.f->cmdNext();
+    e.f->cmdNext_Click();
     EXPECT_EQ(e.f->miesiac, 1);
-    for (int i = 0; i < 5; ++i) e.f->cmdNext();  // June 2021: 30 days, 8 of them weekends
+    for (int i = 0; i < 5; ++i) e.f->cmdNext_Click();  // June 2021: 30 days, 8 of them weekends
     EXPECT_EQ(e.f->LbData.Caption, "czerwiec,2021");
     e.kom(3, KolCP::Swieto) = "S";  // Corpus Christi
-    e.f->cmdWstawG();
+    e.f->cmdWstawG_Click();
     int osemki = 0;
     for (int d = 1; d <= 31; ++d) {
         if (e.kom(d, KolCP::Gp) != "8") continue;
@@ -78,15 +78,15 @@ TEST(WorkingTime, MonthGridAndDefaults) {
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::Swieto), "1");
     EXPECT_EQ(e.f->lbIloscDniPracy.Caption, "21");
     e.kom(3, KolCP::Swieto) = "";
-    e.f->cmdWstawG();
+    e.f->cmdWstawG_Click();
     EXPECT_EQ(e.f->lbIloscDniPracy.Caption, "22");
-    e.f->cmdZeruj();
+    e.f->cmdZeruj_Click();
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::Gp), "0");
 }
 
 TEST(WorkingTime, EntriesByColumnAndSaving) {
     Ekran e("31-03-2021");
-    e.f->cmdWstawG();
+    e.f->cmdWstawG_Click();
     auto wpisz = [&](int r, int c, std::optional<std::string> t) {
         e.f->MSFlexGrid1.Row = r;
         e.f->MSFlexGrid1.Col = c;
@@ -111,7 +111,7 @@ TEST(WorkingTime, EntriesByColumnAndSaving) {
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::GUr), "0");  // leave adds no hours
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::G50), "2.5");
     EXPECT_EQ(e.kom(kWierszRazem, KolCP::Gp), "184");  // 23 working days of March
-    e.f->cmdZapiszZmiany();
+    e.f->cmdZapiszZmiany_Click();
     const std::string po = readBytes(e.plik);
     EXPECT_EQ(po.substr(0, e.drugi.size()), e.drugi);
     auto bloki = CzasPracy::readAll(e.plik);
@@ -124,14 +124,14 @@ TEST(WorkingTime, EntriesByColumnAndSaving) {
     EXPECT_EQ(dz[0].s(D::Rezerwa10), "0");
     EXPECT_EQ(bloki[1].dni[1][0].item(D::Gp), core::Item::bare("0"));  // February untouched
     // Saving again without a change gives the same bytes; the days of another month stay.
-    e.f->cmdZapiszZmiany();
+    e.f->cmdZapiszZmiany_Click();
     EXPECT_EQ(readBytes(e.plik), po);
 }
 
 TEST(WorkingTime, PrintedMonth) {
     Ekran e("30-04-2021");
-    e.f->cmdWstawG();
-    e.f->cmdDrukCzasuPracy();
+    e.f->cmdWstawG_Click();
+    e.f->cmdDrukCzasuPracy_Click();
     std::vector<std::string> t;
     const auto strony = e.l.ui.paper.pages();
     for (const auto& line : strony.at(0)) t.push_back(line.text);

@@ -63,7 +63,7 @@ TEST(Average, MonthsCountedSwitchedOffAndMissing) {
             t.l.karta(t.okresy[i], 3000, i == c.indeks ? c.linie : std::vector<std::pair<double, std::string>>{},
                       i == 2 && c.brak ? 200.0f : 0.0f);
         }
-        t.f.cmdWylicz();
+        t.f.cmdWylicz_Click();
         EXPECT_EQ(t.f.LbiloscMiesiecy.Caption, c.miesiecy);
         EXPECT_EQ(t.f.txtOgolem.Text, c.ogolem);
         EXPECT_EQ(t.f.txtKwotaNetto.Text, c.netto);
@@ -87,7 +87,7 @@ TEST(Average, ExtrasThirteenthAndBothTotals) {
     t.dodatkowy(Dod::Rodzaj::God, t.okresy[2], lfx::kDrugi, {{Dod::Kw1, 999.0f}});
     t.dodatkowy(Dod::Rodzaj::Dod, t.okresy[4], lfx::kKlucz, {{Dod::Kw7, 300.0f}});
     t.dodatkowy(Dod::Rodzaj::Trz, "21", lfx::kKlucz, {{Dod::KwotaBrutto, 3600.0f}});
-    t.f.cmdWylicz();
+    t.f.cmdWylicz_Click();
     EXPECT_EQ(t.kom(2, KolS::Godziny), "150.50");
     EXPECT_EQ(t.kom(3, KolS::Godziny), "150.50");  // left in the cell, not added again
     EXPECT_EQ(t.kom(3, KolS::Razem), "3150.50");
@@ -102,31 +102,31 @@ TEST(Average, ExtrasThirteenthAndBothTotals) {
     EXPECT_EQ(t.f.txtKwotaNetto.Text, "30118.35");
     EXPECT_EQ(t.cel.Text, "91.27");
     // Its twelfth for each of the 11 months counted.
-    t.f.CmdWyliczSrednia();
+    t.f.CmdWyliczSrednia_Click();
     EXPECT_EQ(t.f.txtOgolem.Text, "36750.50");
     EXPECT_EQ(t.f.txtKwotaNetto.Text, "29874.48");
     EXPECT_EQ(t.f.txtSredniadzienna.Text, "90.53");
     // A second fetch does nothing while the grid has rows.
     t.f.txtRazeMPlaca.Text = "1";
-    t.f.cmdWylicz();
+    t.f.cmdWylicz_Click();
     EXPECT_EQ(t.f.txtRazeMPlaca.Text, "1");
     // With no month counted the typed average stands.
     t.f.LbiloscMiesiecy.Caption = "0";
     t.f.txtSredniadzienna.Text = "55,5";
-    t.f.CmdWyliczSrednia();
+    t.f.CmdWyliczSrednia_Click();
     EXPECT_EQ(t.cel.Text, "55.5");
     t.f.txtSredniadzienna.Text = "0";
-    t.f.CmdWstaw();
+    t.f.CmdWstaw_Click();
     EXPECT_FALSE(t.f.Unloaded);
     t.f.txtSredniadzienna.Text = "61,20";
-    t.f.CmdWstaw();
+    t.f.CmdWstaw_Click();
     EXPECT_TRUE(t.f.Unloaded);
     EXPECT_EQ(t.cel.Text, "61.20");
 }
 
 TEST(Average, DaysFromWorkingTime) {
     Srednia t;
-    t.f.cmdPobierzIloscdni();
+    t.f.cmdPobierzIloscdni_Click();
     EXPECT_EQ(t.l.ui.last(), "[]  Brak danych  - nie wykonywana ewidencja czasu pracy !!");
     CzasPracy::Blok b = CzasPracy::nowyBlok("KOWALSKI", "JAN", lfx::kKlucz, 2020);
     auto& luty = b.dni[1];
@@ -139,8 +139,8 @@ TEST(Average, DaysFromWorkingTime) {
     CzasPracy::writeAll(CzasPracy::path(t.l.s, "2020"), {b}, "t.dta");
     t.l.ui.boxes.clear();
     for (int i = 0; i < 12; ++i) t.l.karta(t.okresy[i], 3000);
-    t.f.cmdWylicz();
-    t.f.cmdPobierzIloscdni();
+    t.f.cmdWylicz_Click();
+    t.f.cmdPobierzIloscdni_Click();
     EXPECT_EQ(t.kom(1, KolS::IlDniOB), "2");
     EXPECT_EQ(t.kom(1, KolS::IlDniPra), "2");
     EXPECT_EQ(t.kom(2, KolS::IlDniOB), "0");

@@ -45,7 +45,7 @@ TEST(Leave, NewBlockEntriesAndTheMonthsSums) {
     EXPECT_EQ(e.kom(2, 29), "X");  // 2021 is a common year
     EXPECT_EQ(e.kom(2, 28), "0");
     e.f->txtUrlopowaStawka.Text = "120.50";
-    e.f->cmdWstaw();
+    e.f->cmdWstaw_Click();
     for (int d : {1, 2, 3}) e.wpisz(3, d, "U8");
     EXPECT_EQ(e.l.ui.boxes.back().title, "Wpisanie urlop !");
     EXPECT_EQ(e.l.ui.boxes.back().def, "U8");
@@ -83,7 +83,7 @@ TEST(Leave, SavingCountsDaysFromHoursAndKeepsTheOtherBlock) {
     e.f->txtUrlopNalezny.Text = "20";
     e.f->txtUrlopowaStawka.Text = "99.9";
     e.f->setOption(e.f->Option1);
-    e.f->CmdZmiany();
+    e.f->CmdZmiany_Click();
     EXPECT_EQ(e.l.ui.last(), "[Zapis danych] Zmiany zapisane  ");
     EXPECT_EQ(e.f->LbZgodzin.Caption, "1");  // 13 hours: one day of 8
     EXPECT_EQ(e.f->LbDowykorzystania.Caption, "19");
@@ -100,13 +100,13 @@ TEST(Leave, SavingCountsDaysFromHoursAndKeepsTheOtherBlock) {
     auto u = paycalc::urlopMiesiaca(bloki, lfx::kKlucz, 3);
     EXPECT_TRUE(u.znaleziony);
     // A second save with nothing changed gives the same bytes.
-    e.f->CmdZmiany();
+    e.f->CmdZmiany_Click();
     EXPECT_EQ(readBytes(e.plik), po);
 }
 
 TEST(Leave, TransferToWorkingTime) {
     Ekran e;
-    e.f->cmdWprowadzUrlopyDoCzasu();
+    e.f->cmdWprowadzUrlopyDoCzasu_Click();
     EXPECT_EQ(e.l.ui.last(), "[Utwórz zbiór ] Brak zbioru rozliczenia czasu pracy ");
     const auto cp = CzasPracy::path(e.l.s, "2021");
     CzasPracy::Blok moj = CzasPracy::nowyBlok("KOWALSKI", "JAN", lfx::kKlucz, 2021);
@@ -114,7 +114,7 @@ TEST(Leave, TransferToWorkingTime) {
     CzasPracy::writeAll(cp, {CzasPracy::nowyBlok("NOWAK", "ANNA", lfx::kDrugi, 2021), moj}, "t.dta");
     const std::string przed = readBytes(cp);
     e.wpisz(1, 4, "U8");
-    e.f->cmdWprowadzUrlopyDoCzasu();
+    e.f->cmdWprowadzUrlopyDoCzasu_Click();
     EXPECT_EQ(e.l.ui.last(),
               "[Wpis urlopów i zaznaczenie świąt] Urlopy wpisane do rozliczenia czasu pracy (Zapisz zmiany)! ");
     EXPECT_EQ(e.kom(1, 6), "S");
@@ -129,12 +129,12 @@ TEST(Leave, TransferToWorkingTime) {
 TEST(Leave, PrintedStatement) {
     Ekran e;
     e.f->txtUrlopowaStawka.Text = "120.50";
-    e.f->cmdWstaw();
+    e.f->cmdWstaw_Click();
     e.wpisz(3, 9, "U8");
     e.wpisz(3, 10, "U6");
     e.f->txtPrzenies.Text = "2";
     e.f->txtUrlopNalezny.Text = "26";
-    e.f->cmdDrukujWykaz();
+    e.f->cmdDrukujWykaz_Click();
     const auto strony = e.l.ui.paper.pages();
     ASSERT_EQ(strony.size(), 1u);
     std::vector<std::string> t;

@@ -7,7 +7,7 @@
 
 #include "core/record.h"
 #include "core/session.h"
-#include "paycalc/urlopy.h"
+#include "paycalc/urlop_record.h"
 #include "paycalc/wyliczenie.h"
 #include "support/scripted.h"
 #include "support/tempdir.h"

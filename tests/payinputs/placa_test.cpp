@@ -49,7 +49,7 @@ TEST(Placa, OpensTheRecordOfThePerson) {
     EXPECT_FALSE(f.Label25.Visible);
     EXPECT_EQ(f.Label25.Caption, "Przekroczony próg 17%");
     EXPECT_FALSE(f.Label27.Visible);
-    EXPECT_FALSE(f.cmdWpiszDane_.Enabled);
+    EXPECT_FALSE(f.cmdWpiszDane.Enabled);
 }
 
 TEST(Placa, LabelsOfTheLimitsAndOfTheTwoTaxNumbers) {
@@ -144,7 +144,7 @@ TEST(Placa, SaveWithACommaAndTheLowerCaseEndMarker) {
     f.txt(Pay::ZastosStaPOD).Text = "18";
     f.setOption(f.Option6);
     f.Check3.Value = 0;
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     EXPECT_EQ(ui.lines(), lines({"[zmiany)] Zmiany wykonane !"}));
     const auto after = readLines(d.dta());
     ASSERT_EQ(after.size(), before.size());
@@ -181,7 +181,7 @@ TEST(Placa, TwoRecordsOfOneKeyAreBothReplaced) {
     PlacaScreen f(ui, d.s);
     f.Load();
     f.txt(Pay::Zasadnicza).Text = "5400";
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     auto r = Pay::readAll(d.dta());
     ASSERT_EQ(r.size(), 8u);
     EXPECT_EQ(r[0].s(Pay::Zasadnicza), "5400");
@@ -202,9 +202,9 @@ TEST(Placa, SaveWithoutARecordRenumbersOnly) {
     PlacaScreen f(ui, d.s);
     f.Load();
     EXPECT_FALSE(f.maRekord());
-    EXPECT_TRUE(f.cmdWpiszDane_.Enabled);
+    EXPECT_TRUE(f.cmdWpiszDane.Enabled);
     f.txt(Pay::Zasadnicza).Text = "9999";
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     const auto after = readLines(d.dta());
     ASSERT_EQ(after.size(), before.size());
     for (std::size_t i = 0; i < after.size(); ++i) {
@@ -234,16 +234,16 @@ TEST(Placa, NewRecordOfAPersonWithoutOne) {
     EXPECT_EQ(d.s.NowyZapis, "");
     EXPECT_EQ(f.txt(Pay::DataZatrudnienia).Text, "01-06-2018");
     const std::string bytes = readBytes(d.dta());
-    f.cmdWpiszDane();  // cancelled
+    f.cmdWpiszDane_Click();  // cancelled
     EXPECT_EQ(readBytes(d.dta()), bytes);
     f.txt(Pay::Zasadnicza).Text = "3600";  // typed, but a new record starts from the defaults
-    f.cmdWpiszDane();
+    f.cmdWpiszDane_Click();
     EXPECT_EQ(ui.lines(), lines({"[Brak danych placowych dla tego nazwiska!] Zakładam zbiór płacowy dla wybranej osoby ?",
                                  "[Brak danych placowych dla tego nazwiska!] Zakładam zbiór płacowy dla wybranej osoby ?",
                                  "[]  Zapisano "}));
     EXPECT_EQ(ui.boxes[0].buttons, core::Buttons::OKCancel);
     EXPECT_TRUE(f.maRekord());
-    EXPECT_FALSE(f.cmdWpiszDane_.Enabled);
+    EXPECT_FALSE(f.cmdWpiszDane.Enabled);
     auto r = Pay::readAll(d.dta());
     ASSERT_EQ(r.size(), 7u);
     const core::Record& n = r[6];
@@ -263,7 +263,7 @@ TEST(Placa, NewRecordOfAPersonWithoutOne) {
     EXPECT_FALSE(std::filesystem::exists(d.dta().parent_path() / "Tymcz.dat"));
     // The typed base then goes in by "Zapisz zmiany", and the new date brings the allowance:
     // 01-06-2018 to 31-01-2021 is two full years, nothing below five.
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     r = Pay::readAll(d.dta());
     EXPECT_EQ(r[6].s(Pay::Zasadnicza), "3600");
     EXPECT_EQ(r[6].item(Pay::DataZatrudnienia), core::Item::quoted("01-06-2018"));
@@ -307,7 +307,7 @@ TEST(Placa, SeniorityForARecordWithoutDateOfHire) {
         PlacaScreen f(ui, d.s);
         f.Load();
         f.setOption(*c.dodatek ? f.Option2 : f.Option1);
-        f.cmdWpiszDane();  // replaces the existing record
+        f.cmdWpiszDane_Click();  // replaces the existing record
         EXPECT_EQ(ui.last(), "[]  Zapisano ");
         auto r = Pay::readAll(d.dta());
         EXPECT_EQ(r[0].s(Pay::Stazowy), c.stazowy);
@@ -337,7 +337,7 @@ TEST(Placa, LetterInAnAmountOfTheFile) {
     // A save that cannot read the file reports it in its own words and leaves the file.
     const std::string bytes = readBytes(d.dta());
     ui.boxes.clear();
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     ASSERT_EQ(ui.boxes.size(), 1u);
     EXPECT_EQ(core::Left(ui.boxes[0].text, 19), "Błąd Nr 13 w lini a");
     EXPECT_EQ(readBytes(d.dta()), bytes);
@@ -352,7 +352,7 @@ TEST(Placa, MissingPayFileIsMadeByTheFirstRecord) {
     f.Load();
     EXPECT_TRUE(ui.boxes.empty());
     EXPECT_FALSE(f.maRekord());
-    f.cmdWpiszDane();
+    f.cmdWpiszDane_Click();
     auto r = Pay::readAll(d.dta());
     ASSERT_EQ(r.size(), 1u);
     EXPECT_EQ(r[0].i(Pay::Numer), 1);
@@ -378,7 +378,7 @@ TEST(Placa, DoubleQuoteIsRefusedWithTheFileWhole) {
         PlacaScreen f(ui, d.s);
         f.Load();
         f.txt(c.field).Text = "12 \"34\" 56";
-        c.newRecord ? f.cmdWpiszDane() : f.cmdZapiszZmiany();
+        c.newRecord ? f.cmdWpiszDane_Click() : f.cmdZapiszZmiany_Click();
         EXPECT_EQ(ui.last(), "[Błędne dane] Pole \"" + c.box + "\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano.");
         EXPECT_EQ(f.FocusTo, f.txt(c.field).Name);
         EXPECT_EQ(readBytes(d.dta()), before);

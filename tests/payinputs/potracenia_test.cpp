@@ -49,7 +49,7 @@ TEST(Potracenia, DuesAreAmountsOrPercentsOfBasicPayOrOfTheBase) {
         f.Load();
         type(f, Pay::Zwiazek, c.zwiazek);
         type(f, Pay::Solidarnosc, c.solid);
-        f.cmdZapisz();
+        f.cmdZapisz_Click();
         EXPECT_EQ(ui.lines(), std::vector<std::string>{"[]  Zapisano "});
         EXPECT_TRUE(f.Unloaded);
         EXPECT_EQ(f.lbZwiazki.Caption, c.lbZwiazki);
@@ -101,7 +101,7 @@ TEST(Potracenia, OpeningShowsBaseDuesAndTotalWithoutWriting) {
     EXPECT_EQ(f.lbSolid.Caption, "15.00");  // 3000 * 0.5 / 100
     // 100 + 50 + 0.5 (the fraction taken bare) + 10 + 20 + 30.25 + 5 + 7 + 1 + 15
     EXPECT_EQ(f.lbRazemPotracenia.Caption, "238.75");
-    EXPECT_TRUE(f.cmdZapisz_.Enabled);
+    EXPECT_TRUE(f.cmdZapisz.Enabled);
     EXPECT_FALSE(f.lbBrakDanych.Visible);
     EXPECT_EQ(testing_support::readBytes(pf.file), before);
 
@@ -148,7 +148,7 @@ TEST(Potracenia, SavingRewritesOnlyTheSavedFieldsAndTheNumbers) {
     PotraceniaScreen f(ui, pf.s);
     f.Load();
     for (const auto& v : saved) type(f, v.field, v.typed);
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(ui.lines(), std::vector<std::string>{"[]  Zapisano "});
     EXPECT_TRUE(f.Unloaded);
     EXPECT_EQ(f.txt(Pay::ZFMRata).Text, "120.50");
@@ -178,7 +178,7 @@ TEST(Potracenia, TextInsteadOfANumberStopsTheSaveWithTheFileWhole) {
     f.Load();
     type(f, Pay::ZFMRata, "100");
     type(f, Pay::KZPRata, "12a");
-    f.fire(f.cmdZapisz_, &core::Control::Click);
+    f.fire(f.cmdZapisz, &core::Control::Click);
     EXPECT_EQ(ui.lines(), std::vector<std::string>{"[]  Błąd 13  w linii txtKZPRata\n\"12a\" nie jest liczbą"});
     EXPECT_FALSE(f.Unloaded);
     EXPECT_EQ(f.FocusTo, "txtKZPRata");

@@ -39,7 +39,7 @@ TEST(Zasilki, SavedAsNumbersAndSummedWithoutTheChildcareBase) {
         f.Load();
         EXPECT_EQ(f.txtRodzinny.Text, "99");
         for (int i = 0; i < 6; ++i) f.pola[i]->Text = c.typed[i];
-        f.CmdZapiszZasilki();
+        f.CmdZapiszZasilki_Click();
         EXPECT_EQ(ui.lines(), std::vector<std::string>{"[]  Zapisano "});
         EXPECT_FALSE(f.Unloaded);
         EXPECT_EQ(f.lbKwotazasilkow.Caption, c.suma);
@@ -76,7 +76,7 @@ TEST(Zasilki, OpeningTurnsCommasIntoPointsAndWritesNothing) {
     EXPECT_EQ(f.txtIloscOsZR.Text, "1");
     EXPECT_EQ(f.txtIloscOsZP.Text, "");
     EXPECT_EQ(f.lbKwotazasilkow.Caption, "353.50");  // 153 + 120.5 + 80
-    EXPECT_TRUE(f.CmdZapiszZasilki_.Enabled);
+    EXPECT_TRUE(f.CmdZapiszZasilki.Enabled);
     EXPECT_EQ(testing_support::readBytes(pf.file), before);
 }
 
@@ -100,7 +100,7 @@ TEST(Zasilki, SavingForAForeignerChangesOnlyHisBenefitsAndTheNumbers) {
         auto& z = dynamic_cast<ZasilkiScreen&>(f);
         z.txtRodzinny.Text = "230,50";
         z.txtIloscOsZR.Text = "2";
-        f.fire(z.CmdZapiszZasilki_, &core::Control::Click);
+        f.fire(z.CmdZapiszZasilki, &core::Control::Click);
     };
     ASSERT_TRUE(ui.open("frmZasilki", pf.s));
     EXPECT_EQ(ui.lines(), std::vector<std::string>{"[]  Zapisano "});
@@ -124,7 +124,7 @@ TEST(Zasilki, TextInsteadOfANumberStopsTheSave) {
     f.Load();
     f.txtRodzinny.Text = "120";
     f.txtIloscOsZR.Text = "dwie";
-    f.fire(f.CmdZapiszZasilki_, &core::Control::Click);
+    f.fire(f.CmdZapiszZasilki, &core::Control::Click);
     EXPECT_EQ(ui.lines(), std::vector<std::string>{"[]  Błąd nr 13 w linii txtIloscOsZR\n\"dwie\" nie jest liczbą"});
     EXPECT_EQ(f.FocusTo, "txtIloscOsZR");
     EXPECT_EQ(testing_support::readBytes(pf.file), before);

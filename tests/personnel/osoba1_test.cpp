@@ -36,8 +36,8 @@ TEST(Osoba1, OpensThePersonOfTheSession) {
     EXPECT_EQ(f.txtNumerIP.Text, "7");                     // value 40
     EXPECT_EQ(f.txtKod.Text, "32-447");
     EXPECT_EQ(f.Option1.Value, 1);
-    EXPECT_TRUE(f.cmdZapiszZmiany_.Visible);
-    EXPECT_FALSE(f.cmdZapiszNowaOsobe_.Visible);
+    EXPECT_TRUE(f.cmdZapiszZmiany.Visible);
+    EXPECT_FALSE(f.cmdZapiszNowaOsobe.Visible);
     EXPECT_DOUBLE_EQ(d.s.Osoba.UlamekEtatu, 0.75);
 }
 
@@ -102,7 +102,7 @@ TEST(Osoba1, ValidationOfSaveInItsOrder) {
         Osoba1Screen f(ui, d.s);
         f.Load();
         c.edit(f);
-        f.cmdZapiszZmiany();
+        f.cmdZapiszZmiany_Click();
         EXPECT_EQ(ui.lines(), c.boxes);
         EXPECT_EQ(f.FocusTo, c.focus);
         EXPECT_EQ(readBytes(d.per()), before);
@@ -119,7 +119,7 @@ TEST(Osoba1, ForeignerPathEmptiesThePesel) {
     f.txtPesel.Text = "00000000000";
     f.txtObywatelstwo.Text = "NIEMIECKIE";
     f.txtPaszport.Text = "";
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     EXPECT_EQ(f.txtPesel.Text, "");
     EXPECT_EQ(ui.boxes.front().icon, core::Icon::Information);
 }
@@ -141,7 +141,7 @@ TEST(Osoba1, SaveRebuildsTheRecordFromTheControls) {
     f.txtNumerIP.Text = "12";
     f.txtPaszport.Text = "ab12";
     f.setOption(f.Option2);
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     EXPECT_EQ(ui.lines(), lines({"[Potwierdzenie zapisu] Zmiany zostały wprowadzone"}));
     const auto after = d.osoby();
     ASSERT_EQ(after.size(), before.size());
@@ -189,7 +189,7 @@ TEST(Osoba1, ForeignerAddedThenSaved) {
     f.txtDataUrodzenia.Text = "12-06-1994";
     f.txtEtat.Text = "1";
     f.txtEtat2.Text = "1";
-    f.cmdZapiszNowaOsobe();
+    f.cmdZapiszNowaOsobe_Click();
     EXPECT_EQ(ui.lines(), lines({"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany", "[Dopisany] Rekord zostal dopisany "}));
     EXPECT_FALSE(f.trybNowejOsoby());
     EXPECT_EQ(d.s.KluczOsoby, "MP4455667");
@@ -209,7 +209,7 @@ TEST(Osoba1, ForeignerAddedThenSaved) {
     EXPECT_EQ(kluczOsoby(r), "");  // searched under the empty PESEL
     // The first "Zapisz zmiany" stores the real citizenship.
     ui.boxes.clear();
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     EXPECT_EQ(ui.lines(), lines({"[]  Jezeli jest to cudzoziemiec to wpisz Obywatelstwo i Nr Paszportu",
                                  "[Potwierdzenie zapisu] Zmiany zostały wprowadzone"}));
     recs = d.osoby();
@@ -262,7 +262,7 @@ TEST(Osoba1, AddingAPersonBoxes) {
         f.txtPesel.Text = c.pesel;
         f.txtPaszport.Text = c.paszport;
         f.txtObywatelstwo.Text = c.obywatelstwo;
-        f.cmdZapiszNowaOsobe();
+        f.cmdZapiszNowaOsobe_Click();
         EXPECT_EQ(ui.lines(), c.boxes);
         auto recs = d.osoby();
         if (!c.written) {
@@ -285,7 +285,7 @@ TEST(Osoba1, CancelledAddWritesNothing) {
     Osoba1Screen f(ui, d.s);
     f.Load();
     f.txtPesel.Text = "92010112345";
-    f.cmdZapiszNowaOsobe();
+    f.cmdZapiszNowaOsobe_Click();
     EXPECT_EQ(ui.boxes.size(), 1u);
     EXPECT_EQ(readBytes(d.per()), before);
 }
@@ -342,7 +342,7 @@ TEST(Osoba1, MissingFileQuestion) {
     f.txtPesel.Text = "75031412317";
     f.txtKodUbezpieczenia.Text = "011000";
     f.txtDataUrodzenia.Text = "14-03-1975";
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     auto recs = d.osoby();
     ASSERT_EQ(recs.size(), 1u);
     EXPECT_EQ(recs[0].s(Osoba::Nazwisko), "NOWAK");
@@ -467,7 +467,7 @@ TEST(Osoba1, DoubleQuoteIsRefusedByEveryWriterOfThePersonFile) {
              Osoba1Screen f(ui, d.s);
              f.Load();
              f.TxtUlica.Text = "Aleja \"Róż\", 5";
-             f.cmdZapiszZmiany();
+             f.cmdZapiszZmiany_Click();
              EXPECT_EQ(f.FocusTo, "TxtUlica");
          }, box},
         {"new person",
@@ -478,7 +478,7 @@ TEST(Osoba1, DoubleQuoteIsRefusedByEveryWriterOfThePersonFile) {
              f.txtPesel.Text = "92010112345";
              f.txtObywatelstwo.Text = "POLSKIE";
              f.TxtUlica.Text = "Aleja \"Róż\"";
-             f.cmdZapiszNowaOsobe();
+             f.cmdZapiszNowaOsobe_Click();
          }, box},
         {"renumbering in the sort",
          [](DemoList& d, ScriptedDialogs& ui) {
@@ -488,7 +488,7 @@ TEST(Osoba1, DoubleQuoteIsRefusedByEveryWriterOfThePersonFile) {
              f.MSFlexGrid7.Col = 1;
              ui.type(std::string("1\""));
              f.MSFlexGrid7_DblClick();
-             f.cmdZapiszPosortowane();
+             f.cmdZapiszPosortowane_Click();
          }, "[Błędne dane] Pole \"NumerIP\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano."},
     };
     for (const auto& c : cases) {
@@ -521,7 +521,7 @@ TEST(Osoba1, NewPersonModeEmptiesEveryOtherBox) {
     f.txtNazwisko.Text = "Nowicki";
     f.txtImie.Text = "Adam";
     f.txtPesel.Text = "92010112345";
-    f.cmdZapiszNowaOsobe();
+    f.cmdZapiszNowaOsobe_Click();
     EXPECT_EQ(ui.lines(), lines({"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany", "[Błąd] Ustal Obywatelstwo",
                                  "[Dopisany] Rekord zostal dopisany "}));
 }

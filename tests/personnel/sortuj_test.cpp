@@ -64,7 +64,7 @@ TEST(SortujKadrowe, GridSortsRenumberingAndSave) {
     EXPECT_EQ(g.Cells[5][39], "5");   // number
     EXPECT_EQ(g.Cells[5][28], "EK654321");
 
-    f.CmdSortujwgNazwiska();
+    f.CmdSortujwgNazwiska_Click();
     EXPECT_EQ(kolumna(g, 1), (std::vector<std::string>{"BONDARENKO", "KOWALCZYK", "KRAWCZYK", "MAZUR", "PIOTROWSKA",
                                                         "SZYMAŃSKI", "WÓJCIK"}));
     // A double click on the surname of MAZUR (row 4): the new number goes to columns 0 and 36.
@@ -93,12 +93,12 @@ TEST(SortujKadrowe, GridSortsRenumberingAndSave) {
     f.MSFlexGrid7_DblClick();
     EXPECT_EQ(ui.boxes.size(), boxes);
 
-    f.CmdSortujIP();  // 1..7 with 3 replaced by 37
+    f.CmdSortujIP_Click();  // 1..7 with 3 replaced by 37
     EXPECT_EQ(kolumna(g, 36), (std::vector<std::string>{"1", "2", "4", "5", "6", "7", "37"}));
     EXPECT_EQ(kolumna(g, 1).back(), "MAZUR");
 
     ui.boxes.clear();
-    f.cmdZapiszPosortowane();
+    f.cmdZapiszPosortowane_Click();
     EXPECT_EQ(ui.lines(), (std::vector<std::string>{"[Zapis posortowanego zbioru] Czy chcesz zapisać zmiany?"}));
     auto after = d.osoby();
     ASSERT_EQ(after.size(), 7u);
@@ -126,8 +126,8 @@ TEST(SortujKadrowe, NoLeavesTheFileAndMissingFile) {
     ui.answer(core::Answer::No);
     SortujKadroweScreen f(ui, d.s);
     f.Load();
-    f.CmdSortujwgNazwiska();
-    f.cmdZapiszPosortowane();
+    f.CmdSortujwgNazwiska_Click();
+    f.cmdZapiszPosortowane_Click();
     EXPECT_EQ(readBytes(d.per()), bytes);
 
     std::filesystem::remove(d.per());
@@ -144,7 +144,7 @@ TEST(SortujKadrowe, SortedFileReadsTheSame) {
     ScriptedDialogs ui;
     SortujKadroweScreen f(ui, d.s);
     f.Load();
-    f.cmdZapiszPosortowane();
+    f.cmdZapiszPosortowane_Click();
     auto recs = d.osoby();
     ASSERT_EQ(recs.size(), 7u);
     for (const auto& r : recs) EXPECT_EQ(r.s(Osoba::Koniec), "<Koniec>");
@@ -177,7 +177,7 @@ TEST(WybierzOsobe, LinesOfAllListsAndTheirColumns) {
     EXPECT_EQ(d.s.NazwaListy, "Administracja");
     EXPECT_EQ(d.s.SciezkaOsob.filename(), "a.per");
     // The certificate screen is not part of this program yet.
-    EXPECT_FALSE(f.CmdWybierz_.Enabled);
+    EXPECT_FALSE(f.CmdWybierz.Enabled);
 }
 
 TEST(WybierzOsobe, LineParsesBack) {

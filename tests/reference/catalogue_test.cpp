@@ -124,7 +124,7 @@ TEST(Wybor, ChosenListGoesIntoTheSessionAndOpensTheWorkspace) {
     EXPECT_EQ(f.CmbWybierz.Text, "Wybierz jedną z list ");
     EXPECT_EQ(f.CmbWybierz.List[1], "Produkcja                         p         p   B");
     choose(f, 1);
-    EXPECT_TRUE(f.CmdWybierz());
+    EXPECT_TRUE(f.CmdWybierz_Click());
     EXPECT_TRUE(ui.boxes.empty()) << ui.last();
     EXPECT_EQ(w.opened, 1);
     EXPECT_EQ(w.seen.NazwaZbioru, "p");
@@ -146,7 +146,7 @@ TEST(Wybor, TwoListsOfOneStemTakeTheNumberOfTheFirst) {
     reference::WyborScreen f(ui, d.s);
     f.Load();
     choose(f, 1);
-    ASSERT_TRUE(f.CmdWybierz());
+    ASSERT_TRUE(f.CmdWybierz_Click());
     EXPECT_EQ(d.s.NazwaListy, "Lista dodatkowa                  ");
     EXPECT_EQ(d.s.NazwaZbioru, "x");
     EXPECT_EQ(d.s.NumerListy, "1");
@@ -190,7 +190,7 @@ TEST(Wybor, BoxesOfTheChoice) {
         reference::WyborScreen f(ui, d.s);
         f.Load();
         c.prepare(d, f);
-        EXPECT_EQ(f.CmdWybierz(), c.taken) << c.what;
+        EXPECT_EQ(f.CmdWybierz_Click(), c.taken) << c.what;
         ASSERT_EQ(ui.boxes.size(), 1u) << c.what;
         EXPECT_EQ(ui.last(), c.box) << c.what;
         EXPECT_EQ(f.Unloaded, c.taken) << c.what;
@@ -208,7 +208,7 @@ TEST(Wybor, NewListGetsAnEmptyPersonnelFileAndAnExistingOneStays) {
         reference::WyborScreen f(ui, d.s);
         f.Load();
         choose(f, 0);
-        ASSERT_TRUE(f.CmdWybierz());
+        ASSERT_TRUE(f.CmdWybierz_Click());
     }
     ASSERT_TRUE(fs::exists(per));
     EXPECT_EQ(fs::file_size(per), 0u);
@@ -217,7 +217,7 @@ TEST(Wybor, NewListGetsAnEmptyPersonnelFileAndAnExistingOneStays) {
         reference::WyborScreen f(ui, d.s);
         f.Load();
         choose(f, 0);
-        ASSERT_TRUE(f.CmdWybierz());
+        ASSERT_TRUE(f.CmdWybierz_Click());
     }
     EXPECT_EQ(readBytes(per), "\"<Poczatek>\"\r\n");
 }

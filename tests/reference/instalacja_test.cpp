@@ -37,7 +37,7 @@ TEST(Instalacja, ShowsTheCatalogue) {
     f.Load();
     ASSERT_EQ(f.lstListaI.List.size(), 2u);
     EXPECT_EQ(f.lstListaI.List[0], "Administracja                     a         a   A");
-    EXPECT_FALSE(f.cmdZapisz_.Enabled);
+    EXPECT_FALSE(f.cmdZapisz.Enabled);
     f.lstListaI.ListIndex = 1;
     f.lstListaI_Click();
     EXPECT_EQ(f.txtNazwaListy1.Text, "Produkcja");
@@ -52,15 +52,15 @@ TEST(Instalacja, AddingAListAfterTheQuestion) {
     ScriptedDialogs ui;
     InstalacjaScreen f(ui, d.s);
     f.Load();
-    f.cmdDodajliste();
+    f.cmdDodajliste_Click();
     EXPECT_EQ(f.Tryb, 1);
     fill(f, "Nauczyciele szkoły podstawowej nr 12 w Myślenicach", "naucz_sp12", "n", "b");
     ui.answer(Answer::No);
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(ui.last(), kPytanie);
     EXPECT_EQ(readLines(d.payer() / "instal.dat"), (std::vector<std::string>{kA, kP}));
 
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(ui.boxes.size(), 2u);
     EXPECT_EQ(ui.last(), kPytanie);
     EXPECT_EQ(ui.boxes.back().buttons, core::Buttons::YesNo);
@@ -81,11 +81,11 @@ TEST(Instalacja, ReplacingTheChosenList) {
     f.Load();
     f.lstListaI.ListIndex = 1;
     f.lstListaI_Click();
-    f.cmdaktual();
+    f.cmdaktual_Click();
     EXPECT_EQ(f.Tryb, 2);
     f.txtNazwaListy1.Text = "Produkcja - wydział II";
     f.txtZestaw.Text = "a";
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(ui.last(), kPytanie);
     EXPECT_EQ(readLines(d.payer() / "instal.dat"),
               (std::vector<std::string>{kA, R"("Produkcja - wydział II           ","p       ","p","A","","","","2","")"}));
@@ -99,12 +99,12 @@ TEST(Instalacja, DeletingAsksAndLeavesTheFilesOfTheList) {
     f.Load();
     f.lstListaI.ListIndex = 0;
     ui.answer(Answer::No);
-    f.cmdUsu();
+    f.cmdUsu_Click();
     ASSERT_EQ(ui.boxes.size(), 1u);
     EXPECT_EQ(ui.last(), "[Usuwa wybraną listę z systemu !] Czy napewno chcesz usunąc wybrana listę ?");
     EXPECT_EQ(ui.boxes.back().buttons, core::Buttons::YesNo);
     EXPECT_EQ(readLines(d.payer() / "instal.dat").size(), 2u);
-    f.cmdUsu();
+    f.cmdUsu_Click();
     EXPECT_EQ(ui.last(), "[Usuwa wybraną listę z systemu !] Czy napewno chcesz usunąc wybrana listę ?");
     EXPECT_EQ(readLines(d.payer() / "instal.dat"), std::vector<std::string>{kP});
     EXPECT_TRUE(fs::exists(d.payer() / "Bazy" / "a.dta"));
@@ -117,24 +117,24 @@ TEST(Instalacja, WhatCannotBeSavedIsSaidBeforeTheQuestion) {
         std::function<void(InstalacjaScreen&)> act;
         std::string box;
     } cases[] = {
-        {"bez nazwy", [](InstalacjaScreen& f) { f.cmdDodajliste(); fill(f, "  ", "x", "a", "A"); f.cmdZapisz(); },
+        {"bez nazwy", [](InstalacjaScreen& f) { f.cmdDodajliste_Click(); fill(f, "  ", "x", "a", "A"); f.cmdZapisz_Click(); },
          "[Błędne dane listy] Podaj nazwę listy płac."},
-        {"bez skrótu", [](InstalacjaScreen& f) { f.cmdDodajliste(); fill(f, "Lista", "", "a", "A"); f.cmdZapisz(); },
+        {"bez skrótu", [](InstalacjaScreen& f) { f.cmdDodajliste_Click(); fill(f, "Lista", "", "a", "A"); f.cmdZapisz_Click(); },
          "[Błędne dane listy] Skrót listy (nazwa jej plików) nie może być pusty. Zmian nie zapisano."},
         {"skrót z folderem",
-         [](InstalacjaScreen& f) { f.cmdDodajliste(); fill(f, "Lista", "../a", "a", "A"); f.cmdZapisz(); },
+         [](InstalacjaScreen& f) { f.cmdDodajliste_Click(); fill(f, "Lista", "../a", "a", "A"); f.cmdZapisz_Click(); },
          "[Błędne dane listy] Skrót listy (nazwa jej plików) nie może zawierać ukośnika (\"/\" ani \"\\\"). Zmian nie "
          "zapisano."},
         {"cudzysłów w nazwie",
-         [](InstalacjaScreen& f) { f.cmdDodajliste(); fill(f, "Lista \"B\"", "b", "a", "A"); f.cmdZapisz(); },
+         [](InstalacjaScreen& f) { f.cmdDodajliste_Click(); fill(f, "Lista \"B\"", "b", "a", "A"); f.cmdZapisz_Click(); },
          "[Błędne dane] Pole \"Nazwa listy\" nie może zawierać cudzysłowu (\"). Zmian nie zapisano."},
         {"cudzysłów w zestawie",
-         [](InstalacjaScreen& f) { f.cmdDodajliste(); fill(f, "Lista", "b", "a", "\""); f.cmdZapisz(); },
+         [](InstalacjaScreen& f) { f.cmdDodajliste_Click(); fill(f, "Lista", "b", "a", "\""); f.cmdZapisz_Click(); },
          "[Błędne dane] Pole \"Okreslenie zestawu przyporzadkowuje dana liste do  zbiorówek\" nie może zawierać "
          "cudzysłowu (\"). Zmian nie zapisano."},
-        {"zmiana bez wybranej listy", [](InstalacjaScreen& f) { f.cmdaktual(); },
+        {"zmiana bez wybranej listy", [](InstalacjaScreen& f) { f.cmdaktual_Click(); },
          "[Zmiana listy] Najpierw wybierz z listy listę płac, którą chcesz zmienić."},
-        {"usunięcie bez wybranej listy", [](InstalacjaScreen& f) { f.cmdUsu(); },
+        {"usunięcie bez wybranej listy", [](InstalacjaScreen& f) { f.cmdUsu_Click(); },
          "[Usuwanie listy] Najpierw wybierz z listy listę płac, którą chcesz usunąć."},
     };
     for (auto& c : cases) {
@@ -157,9 +157,9 @@ TEST(Instalacja, NewPayerStartsAnEmptyCatalogue) {
     InstalacjaScreen f(ui, d.s);
     f.Load();
     EXPECT_TRUE(f.lstListaI.List.empty());
-    f.cmdDodajliste();
+    f.cmdDodajliste_Click();
     fill(f, "Zlecenia", "u", "u", "c");
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(readLines(d.payer() / "instal.dat"),
               std::vector<std::string>{R"("Zlecenia                         ","u       ","u","C","","","","1","")"});
 }

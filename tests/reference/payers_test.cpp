@@ -8,7 +8,6 @@
 #include "reference/catalogue.h"
 #include "reference/mojafirma.h"
 #include "reference/payers.h"
-#include "reference/place.h"
 #include "reference/rates.h"
 #include "support/scripted.h"
 
@@ -91,7 +90,7 @@ TEST(PayerRegister, NewPayerGetsItsTreeAndTheTemplate) {
     ui.type(std::string("NOWA"));
     reference::MojaFirmaScreen f(ui, d.s);
     f.Load();
-    f.cmdDodaj();
+    f.cmdDodaj_Click();
     ASSERT_EQ(ui.boxes.size(), 2u);
     EXPECT_TRUE(ui.boxes[0].input);
     EXPECT_EQ(ui.boxes[0].text,
@@ -127,7 +126,7 @@ TEST(PayerRegister, NewPayerWithoutTemplateInTheDataFolder) {
     ui.type(std::string("BEZWZORU"));
     reference::MojaFirmaScreen f(ui, d.s);
     f.Load();
-    f.cmdDodaj();
+    f.cmdDodaj_Click();
     EXPECT_TRUE(fs::is_directory(d.dir / "BEZWZORU" / "Zus"));
     EXPECT_TRUE(fs::is_empty(d.dir / "BEZWZORU" / "Zus"));
 }
@@ -161,7 +160,7 @@ TEST(PayerRegister, ShortNamesThatCannotBeFoldersAreRefusedBeforeAnythingIsMade)
         ui.type(c.typed);
         reference::MojaFirmaScreen f(ui, d.s);
         f.Load();
-        f.cmdDodaj();
+        f.cmdDodaj_Click();
         if (c.box.empty()) {
             EXPECT_EQ(ui.boxes.size(), 1u);
         } else {
@@ -183,9 +182,9 @@ TEST(PayerRegister, ChoosingRewritesOnlyFieldThreeAndAnEmptySetBecomesA) {
     reference::MojaFirmaScreen f(ui, d.s);
     f.Load();
     EXPECT_EQ(f.txt(Firma::SkrotPlatnika).Text, "DEMO");
-    f.cmdNext();
+    f.cmdNext_Click();
     EXPECT_EQ(f.txt(Firma::SkrotPlatnika).Text, "DRUGA");
-    f.cmdKoniecM();
+    f.cmdKoniecM_Click();
     EXPECT_TRUE(ui.boxes.empty()) << ui.last();
     EXPECT_TRUE(f.Unloaded);
     EXPECT_EQ(readBytes(d.dir / "instalka.dat"), "\"demo\",\".\",\"DRUGA\",\"L\",,\"\",,\"31-01-2021\"\r\n");
@@ -208,8 +207,8 @@ TEST(PayerRegister, ChoosingAPayerWithoutItsFolderSaysSo) {
     ScriptedDialogs ui;
     reference::MojaFirmaScreen f(ui, d.s);
     f.Load();
-    f.cmdNext();
-    f.cmdKoniecM();
+    f.cmdNext_Click();
+    f.cmdKoniecM_Click();
     EXPECT_EQ(ui.last(), "[Brak danych Płatnika] Nie wybrano Płatnika ! Wybierz >Instalacyjne >Dane Płatnika! ");
     EXPECT_FALSE(fs::exists(d.dir / "DRUGA"));
 }
@@ -225,7 +224,7 @@ TEST(PayerRegister, SavingTakesTheShownPayerFromTheScreen) {
     f.txt(Firma::WypadkowaStawkaF).Text = "1,67";
     f.txt(Firma::NazwaM).Text = "Demo \"Usługi\", Sp. z o.o.";
     f.txt(Firma::RezerwaF12).Text = "12 272 11 23";
-    f.cmdZmianyM();
+    f.cmdZmianyM_Click();
     EXPECT_TRUE(ui.boxes.empty()) << ui.last();
     auto lines = readLines(Firma::path(d.s));
     auto old = core::Split(core::fromCp1250(before), '\n');
@@ -261,7 +260,7 @@ TEST(PayerRegister, BadValuesAreNotSaved) {
         reference::MojaFirmaScreen f(ui, d.s);
         f.Load();
         f.txt(c.field).Text = c.text;
-        f.cmdZmianyM();
+        f.cmdZmianyM_Click();
         EXPECT_EQ(ui.last(), c.box);
         EXPECT_EQ(readBytes(Firma::path(d.s)), before);
         EXPECT_FALSE(f.Unloaded);
@@ -274,11 +273,11 @@ TEST(PayerRegister, RemovingLeavesTheFolder) {
     ScriptedDialogs ui;
     reference::MojaFirmaScreen f(ui, d.s);
     f.Load();
-    f.cmdNext();
+    f.cmdNext_Click();
     ui.answer(Answer::No);
-    f.cmdUsun();
+    f.cmdUsun_Click();
     EXPECT_EQ(reference::readPayers(d.s).size(), 2u);
-    f.cmdUsun();
+    f.cmdUsun_Click();
     EXPECT_EQ(ui.last(), "[Usuwanie Płatnika] Czy na pewno usunąć Płatnika DRUGA z rejestru? Folder z jego danymi "
                          "pozostaje na dysku.");
     auto recs = reference::readPayers(d.s);
@@ -297,12 +296,12 @@ TEST(PayerRegister, WalkingAndFinding) {
     f.Load();
     auto at = [&] { return f.txt(Firma::SkrotPlatnika).Text; };
     EXPECT_EQ(at(), "DEMO");
-    EXPECT_FALSE(f.cmdWstecz_.Enabled);
-    f.cmdNext();
-    f.cmdNext();
+    EXPECT_FALSE(f.cmdWstecz.Enabled);
+    f.cmdNext_Click();
+    f.cmdNext_Click();
     EXPECT_EQ(at(), "TRZECIA");
-    EXPECT_FALSE(f.cmdNext_.Enabled);
-    f.cmdWstecz();
+    EXPECT_FALSE(f.cmdNext.Enabled);
+    f.cmdWstecz_Click();
     EXPECT_EQ(at(), "DRUGA");
     EXPECT_EQ(f.lbPozycja.Caption, "Płatnik 2 z 3");
 
@@ -320,7 +319,7 @@ TEST(PayerRegister, WalkingAndFinding) {
         ui.boxes.clear();
         ui.type(std::string(c.typed));
         std::string was = at();
-        f.cmdZnajdz();
+        f.cmdZnajdz_Click();
         if (c.found) {
             EXPECT_EQ(at(), c.found) << c.typed;
             EXPECT_EQ(ui.boxes.size(), 1u) << c.typed;
@@ -328,31 +327,6 @@ TEST(PayerRegister, WalkingAndFinding) {
             EXPECT_EQ(at(), was);
             EXPECT_EQ(ui.last(), std::string("[Znajdź Płatnika] Nie znaleziono Płatnika: ") + c.typed);
         }
-    }
-}
-
-TEST(PayerRegister, TheStartChoosesThePayerAsTheScreenDoes) {
-    struct {
-        const char* inInstalka;
-        const char* chosen;
-        const char* written;
-    } cases[] = {
-        {"DRUGA", "DRUGA", "DRUGA"},
-        {"DEMO", "DEMO", "DEMO"},
-        {"NIEMA", "DRUGA", "DRUGA"},  // not in the register: the last payer, and the record follows
-    };
-    for (const auto& c : cases) {
-        Demo d;
-        addSecondPayer(d);
-        core::commitFile(d.dir / "instalka.dat",
-                         std::string("\"demo\",\".\",\"") + c.inInstalka + "\",\"L\",,\"A\",,\"31-01-2021\"\r\n");
-        ScriptedDialogs ui;
-        reference::PlaceScreen place(ui, d.s);
-        place.Load();
-        EXPECT_TRUE(ui.boxes.empty()) << ui.last();
-        EXPECT_EQ(place.lbPlatnik.Caption, c.chosen);
-        EXPECT_EQ(d.s.SkrotPlatnika, c.chosen);
-        EXPECT_EQ(core::Instalka::read(d.dir.path()).s(core::Instalka::SkrotPlatnika), c.written);
     }
 }
 

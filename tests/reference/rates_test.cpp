@@ -97,7 +97,7 @@ TEST(Podatki, SavingAYearLeavesTheOtherYearsByteIdentical) {
     EXPECT_EQ(f.txt(D::UbWypad).Text, "1.93");
     f.txt(D::UbWypad).Text = "1,80";
     f.txt(D::MInBRUTTO).Text = "1750,5";
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_TRUE(d.ui.boxes.empty()) << d.ui.last();
     EXPECT_EQ(f.Label34.Caption, "Zapisane zmiany do 2015 roku");
     std::string after = core::readFileText(d.dane());
@@ -125,7 +125,7 @@ TEST(Podatki, NewYearIsAddedOnlyAfterTheQuestion) {
         f.txt(D::Stawka1).Text = "17";
         f.txt(D::KwotaGRE).Text = "165690";
         d.ui.answer(a);
-        f.cmdZapisz();
+        f.cmdZapisz_Click();
         ASSERT_FALSE(d.ui.boxes.empty());
         EXPECT_EQ(d.ui.boxes[0].title, "Brak zbioru Dane na rok 2022");
         EXPECT_EQ(d.ui.boxes[0].text,
@@ -151,7 +151,7 @@ TEST(Podatki, LetterInARateIsRefusedAndChangesNothing) {
     reference::PodatkiScreen f(d.ui, d.s);
     f.Load();
     f.txt(D::Ubemer).Text = "19.5x";
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(d.ui.last(),
               "[Błędna wartość] W polu \"Stawka Emerytalna\" wpisano \"19.5x\" - to nie jest liczba. Popraw wartość; zmian "
               "nie zapisano.");
@@ -188,7 +188,7 @@ TEST(Obsluga, AdministratorLineOfTheYear) {
     EXPECT_EQ(f.lbAdministrator.Caption, "Anna Kowalska Główna księgowa");
     f.txtAdministrator1.Text = "Jan Żółć";
     f.txtAdministrator2.Text = "Kierownik kadr";
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(f.lbAdministrator.Caption, "Jan Żółć Kierownik kadr");
     EXPECT_EQ(D::readYear(d.dane(), "2020").s(D::Administrator1), "Jan Żółć");
     EXPECT_EQ(D::readYear(d.dane(), "2021").s(D::Administrator1), "Anna Kowalska");
@@ -205,7 +205,7 @@ TEST(Podatki, DoubleQuoteIsRefusedByTheWritersOfTheRates) {
              reference::PodatkiScreen f(d.ui, d.s);
              f.Load();
              f.txt(D::PodstawaDoKZP).Text = "P\"";
-             f.cmdZapisz();
+             f.cmdZapisz_Click();
          },
          "Podstawa do skladek KZP np: brutto lub zasadnicza, mbrutto (-chorobowe)   funkcyjny(zasadnicza +funkcyjny)"},
         {"administrator",
@@ -213,7 +213,7 @@ TEST(Podatki, DoubleQuoteIsRefusedByTheWritersOfTheRates) {
              reference::ObslugaScreen f(d.ui, d.s);
              f.Load();
              f.txtAdministrator2.Text = "Kierownik \"kadr\"";
-             f.cmdZapisz();
+             f.cmdZapisz_Click();
          },
          "Stanowisko"},
     };

@@ -43,11 +43,11 @@ TEST_P(Pit11Rodzaje, MonthsFromTheLedgersByPayerType) {
     // The other columns of January: overtime 100 + 50, costs Round2(250.004), health 300 and
     // 50 + 10, contributions 488 + 75 + 122.5 and of the overtime base 200: 3 + 19.52 + 4.90.
     EXPECT_DOUBLE_EQ(sty.godziny, 150);
-    EXPECT_FLOAT_EQ(sty.koszty, 250);
+    EXPECT_FLOAT_EQ(static_cast<float>(sty.koszty), 250);
     EXPECT_DOUBLE_EQ(sty.skladkaInd, 300);
     EXPECT_DOUBLE_EQ(sty.nfz, 60);
     EXPECT_NEAR(sty.skladkiZUS, 712.92, 1e-4);
-    EXPECT_FLOAT_EQ(sty.ulga, 43.76f);
+    EXPECT_FLOAT_EQ(static_cast<float>(sty.ulga), 43.76f);
     // February has no ledger: a zero row.
     const auto& lut = p.miesiace[1];
     for (double v : {lut.razem, lut.godziny, lut.koszty, lut.skladkaInd, lut.nfz, lut.skladkiZUS, lut.ulga, lut.zaliczka})

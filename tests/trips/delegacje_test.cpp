@@ -38,7 +38,7 @@ struct Trips : testing::Test {
         e->cmbKraj.Text = kraj;
         e->cmbKraj_Click();
         if (kurs) e->txtKursWaluty.Text = kurs;
-        e->cmdDodajPozycje();
+        e->cmdDodajPozycje_Click();
     }
     // The first person of the demo (NOWAK JAN of list a) with a day in Germany (12 hours, 49 EUR at 4.5721) and 8 hours at
     // home (10:00 to 18:00, half of 30 zł), lump sum 100, lodging 150, other 20.50, advance 1000.
@@ -80,14 +80,14 @@ TEST_F(Trips, SavedWithTheMonthsNumberAndReadBackByteForByte) {
     testing_support::writeLines(folder() / "NumD21.dat",
                                 {"1,\"styczeń\",0,", "2,\"luty\",0,", "3,\"marzec\",0,", "4,\"kwiecień\",7,"});
     trip();
-    e->cmdZapiszDelegacje();
+    e->cmdZapiszDelegacje_Click();
     EXPECT_EQ(e->txtNrDel.Text, "1");
     ASSERT_TRUE(fs::exists(folder() / "De000012103.det")) << testing::PrintToString(ui.lines());
     EXPECT_EQ(e->lbStawka.Caption, "0,OO");
     EXPECT_EQ(e->lbKurs.Caption, "0,0000");
     // A second new trip of the month takes the next number.
     e->txtNrDel.Text.clear();
-    e->cmdZapiszDelegacje();
+    e->cmdZapiszDelegacje_Click();
     EXPECT_TRUE(fs::exists(folder() / "De000022103.det"));
     auto numeracja = testing_support::readLines(folder() / "NumD21.dat");
     ASSERT_EQ(numeracja.size(), 12u);
@@ -110,44 +110,44 @@ TEST_F(Trips, SavedWithTheMonthsNumberAndReadBackByteForByte) {
 
     // Edited from the month's list, then deleted with its boxes.
     e->MSFlexGrid2.Row = 1;
-    e->CmdEdytujDelegacje();
+    e->CmdEdytujDelegacje_Click();
     EXPECT_EQ(e->txtDoWyplaty.Text, "-490.47");
     EXPECT_EQ(e->MSFlexGrid3.Rows, 3);
     ui.answer(core::Answer::Yes);
-    e->CmdUsuNDelegacje();
+    e->CmdUsuNDelegacje_Click();
     EXPECT_FALSE(fs::exists(folder() / "De000012103.det"));
     EXPECT_EQ(ui.last(), "[Usunieto] Usunieto delegacje nr1");
     EXPECT_EQ(e->MSFlexGrid2.Rows, 2);
 }
 
 TEST_F(Trips, RefusalsLeaveTheTripAsItWas) {
-    e->cmdZapiszDelegacje();
+    e->cmdZapiszDelegacje_Click();
     EXPECT_EQ(ui.last(), "[Zastanów się co robisz? ] Brak wpisanej jakiejkolwiek pozycji!");
     e->txtMiejscowoscW.Text = "Kraków";
-    e->cmdDodajPozycje();
+    e->cmdDodajPozycje_Click();
     EXPECT_EQ(ui.last(), "[Brak wpisanej wskazanego pracownika !] Wybiez pracownika delegowanego");
     trip();
     e->MSFlexGrid3.Row = 1;
     ui.answer(core::Answer::No);
-    e->CmdUsunPozycje();
+    e->CmdUsunPozycje_Click();
     EXPECT_EQ(ui.last(), "[Usuwanie pozycji! ] Czy chcesz usunąć pozycje nr. 1");
     EXPECT_EQ(e->MSFlexGrid3.Rows, 3);
     ui.answer(core::Answer::Yes);
-    e->CmdUsunPozycje();
+    e->CmdUsunPozycje_Click();
     ASSERT_EQ(e->MSFlexGrid3.Rows, 2);
     EXPECT_EQ(e->MSFlexGrid3.TextMatrix(1, 0), "1");  // renumbered
     EXPECT_EQ(e->txtDiety.Text, "15.00");
     e->MSFlexGrid3.Row = 1;
-    e->CmdUsunPozycje();
+    e->CmdUsunPozycje_Click();
     EXPECT_EQ(ui.last(), "[Usuwanie pozycji! ] Chcesz usunąć jedyną pozycje? -kliknij zmien i zapisz");
     EXPECT_FALSE(fs::exists(folder() / "NumD21.dat"));
 }
 
 TEST_F(Trips, PrintedSettlementAndSummary) {
     trip();
-    e->cmdZapiszDelegacje();
+    e->cmdZapiszDelegacje_Click();
     ui.answer(core::Answer::OK);
-    e->CmdDrukujRozliczenie();
-    e->cmdDrukujZestawienie();
+    e->CmdDrukujRozliczenie_Click();
+    e->cmdDrukujZestawienie_Click();
     EXPECT_EQ(ui.paper.text(), readBytes(fs::path(__FILE__).parent_path() / "data" / "rozliczenie.txt"));
 }

@@ -95,7 +95,7 @@ TEST(KartotekaRoczna, ThirteenthGridWithAndWithoutTheYearsFile) {
         r.zapisz(trzynastka);
         KartotekaRocznaScreen f(r.ui, r.s);
         f.Load();
-        f.cmdTrzynastka();
+        f.cmdTrzynastka_Click();
         const auto& g = f.MSFlexGrid7.Cells;
         ASSERT_EQ(g.size(), trzynastka ? 3u : 2u) << trzynastka;
         EXPECT_EQ(g.back()[0], "ŚwiadczenieUrlop");
@@ -119,7 +119,7 @@ TEST(KartotekaRoczna, BlankedMonthKeepsTheRecordWithZerosAndOthersUntouched) {
     KartotekaRocznaScreen f(r.ui, r.s);
     f.Load();
     f.MSFlexGrid1.Row = 1;
-    f.cmdUsun1Kartoteke();
+    f.cmdUsun1Kartoteke_Click();
     EXPECT_EQ((std::vector<std::string>{f.MSFlexGrid1.Cells[1][0], f.MSFlexGrid1.Cells[1][1], f.MSFlexGrid1.Cells[1][2]}),
               (std::vector<std::string>{"Brak    ", "kartoteki", "pracownika"}));
     const auto po = linie(plik);
@@ -134,7 +134,7 @@ TEST(KartotekaRoczna, BlankedMonthKeepsTheRecordWithZerosAndOthersUntouched) {
     EXPECT_EQ(czytajRok(r.s, "a", yearledger_tests::kKlucz, "2020").miesiace[0].karta->f(K::Brutto), 0.0f);
     // A month without a ledger.
     f.MSFlexGrid1.Row = 2;
-    f.cmdUsun1Kartoteke();
+    f.cmdUsun1Kartoteke_Click();
     EXPECT_EQ(r.ui.last(), "[Podaj date w formacie RRmm !] Brak kartoteki za wybrany miesiac");
 }
 
@@ -155,8 +155,8 @@ TEST(EdycjaKartoteki, ChangesOneFieldOfOnePersonAndNothingElse) {
     EXPECT_EQ(f.MSFlexGrid1.Cells[6], (std::vector<std::string>{"6", "Zasadnicza", "4000"}));
     f.MSFlexGrid1.Row = 6;
     f.txtWartosc.Text = "4100,5";
-    f.cmdZmien();
-    f.cmdZapisz();
+    f.cmdZmien_Click();
+    f.cmdZapisz_Click();
     EXPECT_EQ(testing_support::readBytes(plik), oczekiwane);
 
     // A letter in a number field and a quote in a text field are refused; nothing is written.
@@ -167,12 +167,12 @@ TEST(EdycjaKartoteki, ChangesOneFieldOfOnePersonAndNothingElse) {
     for (const auto& z : zle) {
         f.MSFlexGrid1.Row = z.pole;
         f.txtWartosc.Text = z.tekst;
-        f.cmdZmien();
+        f.cmdZmien_Click();
         EXPECT_EQ(r.ui.boxes.back().icon, core::Icon::Exclamation) << z.tekst;
         EXPECT_NE(r.ui.boxes.back().text.find("Pole " + std::to_string(z.pole)), std::string::npos) << z.tekst;
         EXPECT_THROW(zapiszZmiany(plik, "a", yearledger_tests::kKlucz, {{z.pole, z.tekst}}), core::Error) << z.tekst;
     }
-    f.cmdZapisz();
+    f.cmdZapisz_Click();
     EXPECT_EQ(testing_support::readBytes(plik), oczekiwane);
 }
 
@@ -181,7 +181,7 @@ TEST(KartotekaRoczna, PrintMatchesTheReferenceFile) {
     r.zapisz();
     KartotekaRocznaScreen f(r.ui, r.s);
     f.Load();
-    f.CmdDrukowanie();
+    f.CmdDrukowanie_Click();
     EXPECT_EQ(r.ui.boxes.front().title, "Kartoteka KOWALSKI JAN");
     const std::string tekst = r.ui.paper.text();
     const fs::path wzor = fs::path(PENSJA_TEST_DATA).parent_path() / "yearledger" / "data" / "kartoteka_roczna.txt";
@@ -198,7 +198,7 @@ TEST(KartotekaRoczna, PrintMatchesTheReferenceFile) {
     r2.ui.answer(core::Answer::Cancel);
     KartotekaRocznaScreen f2(r2.ui, r2.s);
     f2.Load();
-    f2.CmdDrukowanie();
+    f2.CmdDrukowanie_Click();
     EXPECT_EQ(r2.ui.last(), "[]  Zrezygnowałeś z drukowania ");
     EXPECT_TRUE(r2.ui.paper.text().empty());
 }

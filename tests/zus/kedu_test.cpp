@@ -85,7 +85,7 @@ std::vector<Record> tylkoZdrowotne() {
                         {{R::PodstZdro, podstawa}, {R::SklZdro, skladka}, {R::FlagaEmerytalne, 0},
                          {R::FlagaRentowe, 0}, {R::FlagaChorobowe, 0}, {R::FlagaWypadkowe, 0}});
     };
-    return {zdrowotny("Ąś-Źrebiec", "Łucja", 1200, 108), zdrowotny("Bąk", "Ewa", 800.5, 72.05)};
+    return {zdrowotny("Ąś-Źrebiec", "Łucja", 1200, 108), zdrowotny("Bąk", "Ewa", 800.5f, static_cast<float>(72.05))};
 }
 
 std::string zapiszRzeczywisty(const std::string& nazwa, const std::string& bajty) {

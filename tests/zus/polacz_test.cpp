@@ -63,10 +63,10 @@ TEST(Polaczenie, ListyZestawuISumowanieJednejOsoby) {
         EXPECT_EQ(r[i].s(R::Nazwisko), oczekiwane[i].nazwisko);
         EXPECT_EQ(r[i].s(R::KodUbez), oczekiwane[i].kod);
         EXPECT_EQ(r[i].s(R::Etat), oczekiwane[i].etat);
-        EXPECT_FLOAT_EQ(r[i].f(R::PodstZUS), oczekiwane[i].podstawa);
-        EXPECT_FLOAT_EQ(r[i].f(R::PodstChorobowa), oczekiwane[i].podstawa);
-        EXPECT_FLOAT_EQ(r[i].f(R::PodstZdro), oczekiwane[i].podstawa);
-        EXPECT_FLOAT_EQ(r[i].f(R::KwotaZR), oczekiwane[i].zr);
+        EXPECT_FLOAT_EQ(r[i].f(R::PodstZUS), static_cast<float>(oczekiwane[i].podstawa));
+        EXPECT_FLOAT_EQ(r[i].f(R::PodstChorobowa), static_cast<float>(oczekiwane[i].podstawa));
+        EXPECT_FLOAT_EQ(r[i].f(R::PodstZdro), static_cast<float>(oczekiwane[i].podstawa));
+        EXPECT_FLOAT_EQ(r[i].f(R::KwotaZR), static_cast<float>(oczekiwane[i].zr));
     }
 }
 

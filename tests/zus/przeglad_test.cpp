@@ -64,7 +64,7 @@ TEST(PrzegladRCP, ZmianaKomorkiIZapisTylkoTegoPola) {
     EXPECT_EQ(p.ui.boxes.back().text, "Podaj zmienioną wartość z pozycji -Podst.ZUS pozycja 1 wartość zmieniana = 5000.00");
     EXPECT_EQ(f.MSFlexGrid1.TextMatrix(1, 6), "995.62");  // 2 * 9.76 % * 5100.50, recomputed at once
     EXPECT_EQ(f.MSFlexGrid1.TextMatrix(3, 5), "7100.50");
-    f.cmdZapiszZmiany();
+    f.cmdZapiszZmiany_Click();
     auto po = testing_support::readLines(R::path(p.s));
     ASSERT_EQ(po.size(), przed.size());
     EXPECT_EQ(po[R::PodstZUS - 1], "5100.5");

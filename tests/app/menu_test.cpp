@@ -8,10 +8,10 @@
 #include "core/numbers.h"
 #include "core/screens.h"
 #include "core/text.h"
-#include "demo_fixture.h"
+#include "reference/demo_fixture.h"
 #include "reference/mojafirma.h"
-#include "reference/place.h"
-#include "reference/pomoc.h"
+#include "app/place.h"
+#include "app/pomoc.h"
 #include "reference/screens.h"
 #include "support/scripted.h"
 
@@ -23,11 +23,21 @@ using testing_support::ScriptedDialogs;
 
 namespace {
 
+// A second payer in the register with its folder, after the demo payer.
+void addSecondPayer(Demo& d) {
+    auto recs = reference::readPayers(d.s);
+    core::Record r(reference::Firma::schema());
+    r.set(reference::Firma::SkrotPlatnika, "DRUGA");
+    recs.push_back(r);
+    reference::Firma::writeAll(reference::Firma::path(d.s), recs);
+    fs::create_directory(d.dir / "DRUGA");
+}
+
 // The main window on the demo data, with a desktop that only records what it is asked.
 struct Place {
     Demo d;
     ScriptedDialogs ui;
-    reference::PlaceScreen place{ui, d.s};
+    app::PlaceScreen place{ui, d.s};
     std::vector<std::string> found;                 // what `find` will answer, in turn
     std::vector<std::vector<std::string>> started;  // programs started
     std::vector<std::string> clock;                 // clock settings asked, "dd-mm-rrrr gg:mm:ss"
@@ -281,7 +291,7 @@ TEST(MenuUtilities, HelpWindow) {
     Place p;
     p.place.pomoc();
     ASSERT_EQ(p.ui.formsShown, std::vector<std::string>{"frmPomoc"});
-    std::string text = reference::tekstPomocy(p.d.s);
+    std::string text = app::tekstPomocy(p.d.s);
     EXPECT_NE(text.find("Listy płac > Wybór grupy"), std::string::npos);
     EXPECT_NE(text.find("Folder danych: " + p.d.dir.path().string()), std::string::npos);
     EXPECT_NE(text.find("Folder Płatnika: " + p.d.dir.path().string() + "/DEMO"), std::string::npos);
@@ -295,7 +305,7 @@ TEST(MainMenuRouting, PayersAndListsOpenTheirScreens) {
     ui.screens = &screens;
     for (const char* name : {"wybór", "frmwybor", "Platnik", "frmMojaFirma", "instalacjalist", "frmInstalacja"})
         EXPECT_TRUE(screens.has(name)) << name;
-    reference::PlaceScreen place(ui, d.s);
+    app::PlaceScreen place(ui, d.s);
     place.Load();
     struct {
         const char* entry;
@@ -321,25 +331,45 @@ TEST(MainMenuRouting, PayersAndListsOpenTheirScreens) {
 
 TEST(MainMenuRouting, ChoosingAnotherPayerRefreshesTheMainWindow) {
     Demo d;
-    auto recs = reference::readPayers(d.s);
-    core::Record r(reference::Firma::schema());
-    r.set(reference::Firma::SkrotPlatnika, "DRUGA");
-    recs.push_back(r);
-    reference::Firma::writeAll(reference::Firma::path(d.s), recs);
-    fs::create_directory(d.dir / "DRUGA");
+    addSecondPayer(d);
     ScriptedDialogs ui;
     core::Screens screens;
     reference::registerScreens(screens);
     ui.screens = &screens;
-    reference::PlaceScreen place(ui, d.s);
+    app::PlaceScreen place(ui, d.s);
     place.Load();
     EXPECT_EQ(place.lbPlatnik.Caption, "DEMO");
     ui.onShow = [](core::Form& f) {
         auto& m = static_cast<reference::MojaFirmaScreen&>(f);
-        m.cmdNext();
-        m.cmdKoniecM();
+        m.cmdNext_Click();
+        m.cmdKoniecM_Click();
     };
     place.fire(*place.find("Platnik"), &core::Control::Click);
     EXPECT_EQ(place.lbPlatnik.Caption, "DRUGA");
     EXPECT_EQ(core::Instalka::read(d.dir.path()).s(core::Instalka::SkrotPlatnika), "DRUGA");
+}
+
+TEST(MainMenuRouting, TheStartChoosesThePayerAsTheScreenDoes) {
+    struct {
+        const char* inInstalka;
+        const char* chosen;
+        const char* written;
+    } cases[] = {
+        {"DRUGA", "DRUGA", "DRUGA"},
+        {"DEMO", "DEMO", "DEMO"},
+        {"NIEMA", "DRUGA", "DRUGA"},  // not in the register: the last payer, and the record follows
+    };
+    for (const auto& c : cases) {
+        Demo d;
+        addSecondPayer(d);
+        core::commitFile(d.dir / "instalka.dat",
+                         std::string("\"demo\",\".\",\"") + c.inInstalka + "\",\"L\",,\"A\",,\"31-01-2021\"\r\n");
+        ScriptedDialogs ui;
+        app::PlaceScreen place(ui, d.s);
+        place.Load();
+        EXPECT_TRUE(ui.boxes.empty()) << ui.last();
+        EXPECT_EQ(place.lbPlatnik.Caption, c.chosen);
+        EXPECT_EQ(d.s.SkrotPlatnika, c.chosen);
+        EXPECT_EQ(core::Instalka::read(d.dir.path()).s(core::Instalka::SkrotPlatnika), c.written);
+    }
 }

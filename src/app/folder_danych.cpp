@@ -1,4 +1,4 @@
-#include "reference/folder_danych.h"
+#include "app/folder_danych.h"
 
 #include <system_error>
 
@@ -7,7 +7,7 @@
 
 namespace fs = std::filesystem;
 
-namespace reference {
+namespace app {
 
 namespace {
 const char* const kTytul = "Folder danych";
@@ -71,4 +71,4 @@ std::optional<fs::path> wybierzFolderDanych(core::Dialogs& ui, const fs::path& d
     }
 }
 
-}  // namespace reference
+}  // namespace app

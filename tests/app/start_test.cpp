@@ -8,7 +8,7 @@
 #include "core/numbers.h"
 #include "core/seqfile.h"
 #include "core/text.h"
-#include "reference/place.h"
+#include "app/place.h"
 #include "support/scripted.h"
 #include "support/tempdir.h"
 
@@ -36,7 +36,7 @@ struct Demo {
 
 TEST(Start, DemoOpensWithThePassword) {
     Demo d;
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     EXPECT_TRUE(d.ui.boxes.empty()) << d.ui.last();
     EXPECT_EQ(d.s.Katalog, ".");
@@ -64,7 +64,7 @@ TEST(Start, PasswordMustMatchExactly) {
     for (std::optional<std::string> typed : {std::optional<std::string>("Demo"), std::optional<std::string>("demo "),
                                              std::optional<std::string>()}) {
         Demo d;
-        reference::PlaceScreen place(d.ui, d.s);
+        app::PlaceScreen place(d.ui, d.s);
         place.Load();
         d.ui.type(typed);
         place.Activate();
@@ -76,7 +76,7 @@ TEST(Start, PasswordMustMatchExactly) {
 TEST(Start, EmptyListDateWarnsAndGoesOn) {
     Demo d;
     d.setInstalka("\"demo\",\".\",\"DEMO\",\"L\",,\"A\",,\"\"");
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     ASSERT_FALSE(d.ui.boxes.empty());
     EXPECT_EQ(d.ui.lines()[0], "[Brak wprowadzonej daty jest błędem !] Brak wprowadzonej daty listy !");
@@ -93,7 +93,7 @@ TEST(Start, WorkingFolderCopyIsOnlyAPointer) {
                      "\"inne\",\"" + d.dir.path().string() + "\",\"DEMO\",\"L\",,\"B\",,\"01-01-2009\"\r\n");
     d.setInstalka("\"demo\",\"" + d.dir.path().string() + "\",\"DEMO\",\"L\",,\"A\",,\"28-02-2019\"");
     d.s.WorkDir = work.path();
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     EXPECT_EQ(d.s.DataListy, "28-02-2019");
     EXPECT_EQ(d.s.Zestaw, "A");
@@ -106,7 +106,7 @@ TEST(Start, MissingInstallationRecordOffersTheFolderChoice) {
     core::Session s;
     s.WorkDir = work.path();
     ScriptedDialogs ui;
-    reference::PlaceScreen place(ui, s);
+    app::PlaceScreen place(ui, s);
     place.Load();
     EXPECT_TRUE(place.dirFolder.Visible);
     // The record is made in the folder shown, so that the next start finds it.
@@ -141,7 +141,7 @@ TEST(Start, BadFilesShowTheErrorReportAndChangeNothing) {
         c.spoil(d);
         std::string before = readBytes(d.instalka());
         std::string rates = fs::exists(d.dir / "dane" / "Dane.dta") ? readBytes(d.dir / "dane" / "Dane.dta") : "";
-        reference::PlaceScreen place(d.ui, d.s);
+        app::PlaceScreen place(d.ui, d.s);
         place.Load();
         bool reported = false;
         for (const auto& b : d.ui.boxes)
@@ -175,11 +175,11 @@ TEST(ListDate, OnlyTheRangesOfDayAndMonthAreTested) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.typed);
         Demo d;
-        reference::PlaceScreen place(d.ui, d.s);
+        app::PlaceScreen place(d.ui, d.s);
         place.Load();
         std::string before = readBytes(d.instalka());
         place.txtDataListyS.Text = c.typed;
-        place.cmdPotwierdz();
+        place.cmdPotwierdz_Click();
         if (c.accepted) {
             EXPECT_TRUE(d.ui.boxes.empty()) << d.ui.last();
             EXPECT_EQ(d.s.DataListy, core::Trim(c.typed));
@@ -195,7 +195,7 @@ TEST(ListDate, OnlyTheRangesOfDayAndMonthAreTested) {
 
 TEST(ListDate, DatePickedInTheCalendarIsTurnedRound) {
     Demo d;
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     place.MonthView1.Visible = true;
     place.MonthView1.Text = "2019-08-31";
@@ -207,7 +207,7 @@ TEST(ListDate, DatePickedInTheCalendarIsTurnedRound) {
 
 TEST(ListDate, EnterConfirmsTheTypedDateTheCalendarFollowed) {
     Demo d;
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     place.txtDataListyS.Text = "15-03-2020";
     place.fire(place.txtDataListyS, &core::Control::Change);
@@ -223,7 +223,7 @@ TEST(ListDate, EnterConfirmsTheTypedDateTheCalendarFollowed) {
 
 TEST(Password, ChangeWritesTheNewOneInClear) {
     Demo d;
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     d.ui.type(std::string("demo")).type(std::string("Nowe1"));
     place.Has_o();
@@ -252,7 +252,7 @@ TEST(Password, ThreeTriesWithRetryAndOneWithoutIt) {
     };
     for (const auto& c : cases) {
         Demo d;
-        reference::PlaceScreen place(d.ui, d.s);
+        app::PlaceScreen place(d.ui, d.s);
         place.Load();
         std::string before = readBytes(d.instalka());
         for (Answer a : c.answers) d.ui.answer(a);
@@ -274,7 +274,7 @@ TEST(SingleInstance, SecondCopyIsRefused) {
     Demo d;
     core::InstanceLock first(d.dir.path());
     EXPECT_FALSE(first.otherRunning());
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     d.ui.type(std::string("demo"));
     place.Activate();
@@ -287,7 +287,7 @@ TEST(MainMenu, EntriesWithoutScreensAreDisabled) {
     core::Screens screens;
     screens.add("stawki", [](core::Session&, core::Dialogs&) {});
     d.ui.screens = &screens;
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     auto entry = [&](const std::string& n) { return place.find(n); };
     ASSERT_NE(entry("stawki"), nullptr);
@@ -303,7 +303,7 @@ TEST(MainMenu, EntriesWithoutScreensAreDisabled) {
 TEST(ListDate, FolderThatCannotBeWrittenKeepsTheRecord) {
     // A limit on the size of a file makes the rewrite fail for any user.
     Demo d;
-    reference::PlaceScreen place(d.ui, d.s);
+    app::PlaceScreen place(d.ui, d.s);
     place.Load();
     std::string before = readBytes(d.instalka());
     ::signal(SIGXFSZ, SIG_IGN);
@@ -313,7 +313,7 @@ TEST(ListDate, FolderThatCannotBeWrittenKeepsTheRecord) {
     small.rlim_cur = 10;
     ::setrlimit(RLIMIT_FSIZE, &small);
     place.txtDataListyS.Text = "28-02-2021";
-    place.cmdPotwierdz();
+    place.cmdPotwierdz_Click();
     ::setrlimit(RLIMIT_FSIZE, &old);
     ASSERT_FALSE(d.ui.boxes.empty());
     EXPECT_EQ(core::Left(d.ui.boxes.back().text, 11), " Błąd nr 75");

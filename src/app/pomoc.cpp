@@ -1,8 +1,8 @@
-#include "reference/pomoc.h"
+#include "app/pomoc.h"
 
-#include "reference/place.h"
+#include "app/place.h"
 
-namespace reference {
+namespace app {
 
 PomocScreen::PomocScreen(core::Dialogs& ui, const core::Session& session)
     : Form(ui, "frmPomoc", "Pomoc - pensja, płace i kadry"), s(session) {
@@ -10,8 +10,8 @@ PomocScreen::PomocScreen(core::Dialogs& ui, const core::Session& session)
     txtPomoc.MultiLine = true;
     txtPomoc.Rows = 30;
     txtPomoc.Locked = true;
-    cmdZamknij_.at(1, 1);
-    cmdZamknij_.Click = [this] { Unload(); };
+    cmdZamknij.at(1, 1);
+    cmdZamknij.Click = [this] { Unload(); };
 }
 
 void PomocScreen::Load() { txtPomoc.Text = tekstPomocy(s); }
@@ -56,4 +56,4 @@ std::string tekstPomocy(const core::Session& s) {
     return t;
 }
 
-}  // namespace reference
+}  // namespace app

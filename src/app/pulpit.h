@@ -8,7 +8,7 @@
 
 #include "core/numbers.h"
 
-namespace reference {
+namespace app {
 
 struct Pulpit {
     // The first of the programs found on the search path, "" when none is installed.
@@ -27,4 +27,4 @@ struct Pulpit {
 extern const std::vector<std::string> kKalkulatory;
 extern const std::vector<std::string> kEdytory;
 
-}  // namespace reference
+}  // namespace app

@@ -7,7 +7,7 @@
 
 #include "core/dialogs.h"
 
-namespace reference {
+namespace app {
 
 // Whether the folder holds the installation record (in any letter case).
 bool jestFolderemDanych(const std::filesystem::path& folder);
@@ -26,4 +26,4 @@ void zalozZDemo(const std::filesystem::path& demo, const std::filesystem::path& 
 std::optional<std::filesystem::path> wybierzFolderDanych(core::Dialogs& ui, const std::filesystem::path& demo,
                                                          const std::filesystem::path& domyslny);
 
-}  // namespace reference
+}  // namespace app

@@ -1,4 +1,4 @@
-#include "reference/place.h"
+#include "app/place.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -10,7 +10,7 @@
 #include "core/text.h"
 #include "reference/mojafirma.h"
 #include "reference/payers.h"
-#include "reference/pomoc.h"
+#include "app/pomoc.h"
 #include "reference/rates.h"
 
 namespace fs = std::filesystem;
@@ -19,7 +19,7 @@ using core::Buttons;
 using core::Icon;
 using core::Kind;
 
-namespace reference {
+namespace app {
 
 const char* const kVersion = "1.0.0";
 
@@ -99,22 +99,22 @@ PlaceScreen::PlaceScreen(core::Dialogs& ui, core::Session& session)
     txtZestaw.width(6);
     txtDataListyS.at(3, 0).label("Data listy płac:").width(12);
     txtDataListyS.ToolTipText = "Data listy płac w postaci dd-mm-rrrr";
-    cmdPotwierdz_.at(3, 1);
+    cmdPotwierdz.at(3, 1);
     MonthView1.at(4, 0, 2);
     MonthView1.Visible = false;
     drvStacjaDyskow.at(5, 0).label("Dysk:");
     dirFolder.at(6, 0, 2).label("Folder danych:");
-    cmdAkceptuj_.at(7, 1);
+    cmdAkceptuj.at(7, 1);
     lbData.at(8, 0);
     lbGodzina.at(8, 1);
     Label4.at(9, 0);
-    cmdKoniec_.at(9, 1);
+    cmdKoniec.at(9, 1);
     tmCzas.Interval = 1000;
     lbKopia.at(10, 0, 2);
     prbKopia.at(11, 0, 2);
     lbKopia.Visible = prbKopia.Visible = false;
 
-    cmdPotwierdz_.Click = [this] { cmdPotwierdz(); };
+    cmdPotwierdz.Click = [this] { cmdPotwierdz_Click(); };
     // Enter takes the calendar's date, and the calendar follows a real date typed in the box,
     // so what the clerk sees is what Enter confirms.
     txtDataListyS.KeyEnter = [this] { MonthView1_DateClick(); };
@@ -125,10 +125,10 @@ PlaceScreen::PlaceScreen(core::Dialogs& ui, core::Session& session)
     };
     txtDataListyS.Click = [this] { MonthView1.Visible = true; };
     MonthView1.Click = [this] { MonthView1_DateClick(); };
-    cmdAkceptuj_.Click = [this] { cmdAkceptuj(); };
+    cmdAkceptuj.Click = [this] { cmdAkceptuj_Click(); };
     dirFolder.Change = [this] {};
     drvStacjaDyskow.Click = [this] { dirFolder.Text = drvStacjaDyskow.selectedText(); };
-    cmdKoniec_.Click = [this] { cmdKoniec(); };
+    cmdKoniec.Click = [this] { cmdKoniec_Click(); };
     tmCzas.Tick = [this] { tmCzas_Timer(); };
 }
 
@@ -192,23 +192,23 @@ void PlaceScreen::setOkres() { s.OkresListy = core::Mid(s.DataListy, 4, 2) + cor
 void PlaceScreen::setCaption() { Caption = s.Katalog + "  pensja - płace i kadry, wersja " + kVersion; }
 
 void PlaceScreen::readRates() {
-    loadRates(s);
-    lbAdministrator.Caption = administrator(s.Dane);
+    reference::loadRates(s);
+    lbAdministrator.Caption = reference::administrator(s.Dane);
 }
 
 void PlaceScreen::refreshPayer() {
-    if (s.Firma.valid()) lbPlatnik.Caption = s.Firma.s(Firma::SkrotPlatnika);
+    if (s.Firma.valid()) lbPlatnik.Caption = s.Firma.s(reference::Firma::SkrotPlatnika);
     txtZestaw.Text = s.Zestaw;
-    if (s.Dane.valid()) lbAdministrator.Caption = administrator(s.Dane);
+    if (s.Dane.valid()) lbAdministrator.Caption = reference::administrator(s.Dane);
     if (!s.Katalog.empty()) setCaption();
 }
 
 void PlaceScreen::wybierzPlatnika() {
-    MojaFirmaScreen hidden(ui, s);
+    reference::MojaFirmaScreen hidden(ui, s);
     hidden.Visible = false;
     hidden.Load();
     if (hidden.Biezacy >= 0)
-        hidden.cmdKoniecM();
+        hidden.cmdKoniecM_Click();
     else
         readRates();
     refreshPayer();
@@ -249,7 +249,7 @@ void PlaceScreen::Load() {
         // 8., 11. The payer, then the rates again with its own accident rate.
         guarded([&] { wybierzPlatnika(); });
         // 9.
-        cmdAkceptuj_.Visible = false;
+        cmdAkceptuj.Visible = false;
     }
     // 10. No data folder yet: the folder shown is taken and the installation record made there.
     // A damaged record is left as it is for the operator to mend.
@@ -271,8 +271,8 @@ void PlaceScreen::Activate() {
     auto typed = ui.inputBox("Podaj hasło dostępu do danych kadrowo- płacowych ", " Wprowadź hasło dostępu ");
     s.HasloPodane = typed.value_or("");
     // 3.
-    lock_ = std::make_unique<core::InstanceLock>(s.WorkDir);
-    if (lock_->otherRunning()) {
+    lock = std::make_unique<core::InstanceLock>(s.WorkDir);
+    if (lock->otherRunning()) {
         ui.msgBox("Aplikacja Tesmar jest aktywna - próba ponownego zainstalowania tego programu !", Buttons::OK,
                   Icon::Critical);
         Unload();
@@ -292,7 +292,7 @@ void PlaceScreen::Activate() {
     MonthView1.Text = core::FormatDate(core::today(), "dd-mm-yyyy");
 }
 
-void PlaceScreen::cmdPotwierdz() {
+void PlaceScreen::cmdPotwierdz_Click() {
     std::string t = core::Trim(txtDataListyS.Text);
     // Day and month by the value of their two characters: "3-" is 3.
     auto part = [&](std::size_t start) { return core::Val(core::Mid(t, start, 2)); };
@@ -321,15 +321,15 @@ void PlaceScreen::cmdPotwierdz() {
 void PlaceScreen::MonthView1_DateClick() {
     txtDataListyS.Text = core::DataTekst(MonthView1.Text);
     MonthView1.Visible = false;
-    cmdPotwierdz();
+    cmdPotwierdz_Click();
 }
 
 void PlaceScreen::Sciezka() {
-    drvStacjaDyskow.Visible = dirFolder.Visible = cmdAkceptuj_.Visible = true;
+    drvStacjaDyskow.Visible = dirFolder.Visible = cmdAkceptuj.Visible = true;
     dirFolder.Text = s.katalog().string();
 }
 
-void PlaceScreen::cmdAkceptuj() {
+void PlaceScreen::cmdAkceptuj_Click() {
     guarded([&] {
         fs::path folder = dirFolder.Text;
         core::Record r = core::Instalka::read(folder);
@@ -340,7 +340,7 @@ void PlaceScreen::cmdAkceptuj() {
         core::Instalka::write(folder, r);
         setCaption();
         readRates();
-        drvStacjaDyskow.Visible = dirFolder.Visible = cmdAkceptuj_.Visible = false;
+        drvStacjaDyskow.Visible = dirFolder.Visible = cmdAkceptuj.Visible = false;
         setOkres();
         wybierzPlatnika();
     });
@@ -367,7 +367,7 @@ void PlaceScreen::Has_o() {
     }
 }
 
-void PlaceScreen::cmdKoniec() { Unload(); }
+void PlaceScreen::cmdKoniec_Click() { Unload(); }
 
 void PlaceScreen::tmCzas_Timer() {
     std::time_t t = std::time(nullptr);
@@ -614,4 +614,4 @@ void PlaceScreen::pomoc() {
     ui.showForm(f);
 }
 
-}  // namespace reference
+}  // namespace app

@@ -8,9 +8,9 @@
 #include "core/instance.h"
 #include "core/screens.h"
 #include "core/session.h"
-#include "reference/pulpit.h"
+#include "app/pulpit.h"
 
-namespace reference {
+namespace app {
 
 extern const char* const kVersion;  // "1.0.0"
 
@@ -23,9 +23,9 @@ public:
     // The guard of the first showing: password, single instance, version, today in the calendar.
     void Activate();
 
-    void cmdPotwierdz();
-    void cmdAkceptuj();
-    void cmdKoniec();
+    void cmdPotwierdz_Click();
+    void cmdAkceptuj_Click();
+    void cmdKoniec_Click();
     void Has_o();
     void Sciezka();
     // The utilities of the menu.
@@ -54,12 +54,12 @@ public:
     core::Control lbGodzina{this, "lbGodzina", core::Kind::Label};
     core::Control txtZestaw{this, "txtZestaw", core::Kind::TextBox};
     core::Control txtDataListyS{this, "txtDataListyS", core::Kind::TextBox};
-    core::Control cmdPotwierdz_{this, "cmdPotwierdz", core::Kind::CommandButton, "&Akceptacja Daty"};
+    core::Control cmdPotwierdz{this, "cmdPotwierdz", core::Kind::CommandButton, "&Akceptacja Daty"};
     core::Control MonthView1{this, "MonthView1", core::Kind::MonthView};
     core::Control drvStacjaDyskow{this, "drvStacjaDyskow", core::Kind::ComboBox};
     core::Control dirFolder{this, "dirFolder", core::Kind::FolderTree};
-    core::Control cmdAkceptuj_{this, "cmdAkceptuj", core::Kind::CommandButton, "Akceptuj folder"};
-    core::Control cmdKoniec_{this, "cmdKoniec", core::Kind::CommandButton, "W&yjscie z programu"};
+    core::Control cmdAkceptuj{this, "cmdAkceptuj", core::Kind::CommandButton, "Akceptuj folder"};
+    core::Control cmdKoniec{this, "cmdKoniec", core::Kind::CommandButton, "W&yjscie z programu"};
     core::Control tmCzas{this, "tmCzas", core::Kind::Timer};
     // The progress of a backup.
     core::Control lbKopia{this, "lbKopia", core::Kind::Label};
@@ -82,7 +82,7 @@ private:
                  const std::string& title, const std::string& what);
     void setCaption();
     void setOkres();
-    std::unique_ptr<core::InstanceLock> lock_;
+    std::unique_ptr<core::InstanceLock> lock;
 };
 
-}  // namespace reference
+}  // namespace app

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/error.h"
-#include "reference/folder_danych.h"
+#include "app/folder_danych.h"
 #include "support/scripted.h"
 #include "support/tempdir.h"
 
@@ -15,27 +15,27 @@ using testing_support::TempDir;
 TEST(FolderDanych, DemoFoundBesideTheProgramOnlyWhenItHoldsTheRecord) {
     TempDir d;
     testing_support::copyTree(PENSJA_DEMO, d / "usr/share/pensja/demo");
-    EXPECT_EQ(reference::folderDemo(d / "usr/bin"), (d / "usr/share/pensja/demo").lexically_normal());
-    EXPECT_TRUE(reference::folderDemo(d / "opt/bin").empty());
+    EXPECT_EQ(app::folderDemo(d / "usr/bin"), (d / "usr/share/pensja/demo").lexically_normal());
+    EXPECT_TRUE(app::folderDemo(d / "opt/bin").empty());
 }
 
 TEST(FolderDanych, NewFolderFromDemoRefusesAFolderWithFiles) {
     TempDir d;
-    reference::zalozZDemo(PENSJA_DEMO, d / "nowy");
-    EXPECT_TRUE(reference::jestFolderemDanych(d / "nowy"));
+    app::zalozZDemo(PENSJA_DEMO, d / "nowy");
+    EXPECT_TRUE(app::jestFolderemDanych(d / "nowy"));
     EXPECT_EQ(testing_support::readBytes(d / "nowy/DEMO/Bazy/a.dta"),
               testing_support::readBytes(fs::path(PENSJA_DEMO) / "DEMO/Bazy/a.dta"));
 
     fs::create_directories(d / "zajety");
     testing_support::writeLines(d / "zajety/notatka.txt", {"moje"});
     try {
-        reference::zalozZDemo(PENSJA_DEMO, d / "zajety");
+        app::zalozZDemo(PENSJA_DEMO, d / "zajety");
         FAIL() << "a folder with files was taken";
     } catch (const core::Error& e) {
         EXPECT_EQ(e.Number, core::err::PathFileAccess);
     }
     EXPECT_EQ(fs::directory_iterator(d / "zajety")->path().filename(), "notatka.txt");
-    EXPECT_FALSE(reference::jestFolderemDanych(d / "zajety"));
+    EXPECT_FALSE(app::jestFolderemDanych(d / "zajety"));
 }
 
 // Each row: the answers to the question, the texts typed, and the folder the start goes on in
@@ -61,10 +61,10 @@ TEST_P(FolderChoice, StartsWhereTheOperatorSaid) {
     ScriptedDialogs ui;
     for (Answer a : c.answers) ui.answer(a);
     for (const std::string& t : c.typed) ui.type(t == "-" ? std::nullopt : std::optional<std::string>((d / t).string()));
-    auto wybrany = reference::wybierzFolderDanych(ui, PENSJA_DEMO, d / "pensja-dane");
+    auto wybrany = app::wybierzFolderDanych(ui, PENSJA_DEMO, d / "pensja-dane");
     EXPECT_EQ(wybrany ? wybrany->string() : "", c.result.empty() ? "" : (d / c.result).string());
     EXPECT_EQ(ui.boxes.size(), c.boxes) << testing::PrintToString(ui.lines());
-    if (wybrany) EXPECT_TRUE(reference::jestFolderemDanych(*wybrany));
+    if (wybrany) EXPECT_TRUE(app::jestFolderemDanych(*wybrany));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -3,7 +3,7 @@
 #include "core/form.h"
 #include "core/session.h"
 
-namespace reference {
+namespace app {
 
 class PomocScreen : public core::Form {
 public:
@@ -12,10 +12,10 @@ public:
 
     const core::Session& s;
     core::Control txtPomoc{this, "txtPomoc", core::Kind::TextBox};
-    core::Control cmdZamknij_{this, "cmdZamknij", core::Kind::CommandButton, "&Zamknij"};
+    core::Control cmdZamknij{this, "cmdZamknij", core::Kind::CommandButton, "&Zamknij"};
 };
 
 // The text of the guide, with the folders of the session's data.
 std::string tekstPomocy(const core::Session& s);
 
-}  // namespace reference
+}  // namespace app

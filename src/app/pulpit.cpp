@@ -1,4 +1,4 @@
-#include "reference/pulpit.h"
+#include "app/pulpit.h"
 
 #include <fcntl.h>
 #include <sys/wait.h>
@@ -11,7 +11,7 @@
 
 namespace fs = std::filesystem;
 
-namespace reference {
+namespace app {
 
 const std::vector<std::string> kKalkulatory = {"gnome-calculator", "kcalc", "galculator", "mate-calc",
                                                "qalculate-gtk", "xcalc"};
@@ -86,4 +86,4 @@ int setSystemClock(const core::Date& d, int hour, int minute, int second) {
 
 Pulpit Pulpit::system() { return Pulpit{findProgram, startProgram, setSystemClock}; }
 
-}  // namespace reference
+}  // namespace app
