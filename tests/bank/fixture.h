@@ -4,10 +4,7 @@
 #include "core/record.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
-#include "support/scripted.h"
-#include "support/tempdir.h"
+#include "support/demo.h"
 
 namespace bank_tests {
 
@@ -43,16 +40,8 @@ inline core::Record dodatek(const std::string& nazwisko, std::vector<std::pair<i
     return r;
 }
 
-struct Dane {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
+struct Dane : testing_support::Demo {
     Dane() {
-        testing_support::copyTree(PENSJA_DEMO, dir.path());
-        s.WorkDir = dir.path();
-        s.takeInstalka(core::Instalka::read(dir.path()));
-        reference::selectPayer(s);
-        reference::loadRates(s);
         s.NazwaListy = "Administracja                    ";
         s.stawki.rentowaPracownik = 0.015;
         s.stawki.emerytalna = 0.0488;

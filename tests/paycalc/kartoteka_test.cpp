@@ -3,13 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "core/numbers.h"
-#include "demo_lista.h"
+#include "core/text.h"
+#include "support/demo.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
 #include "paycalc/kartoteka.h"
 
 using namespace paycalc;
-using paycalc_tests::DemoLista;
+using testing_support::DemoLista;
 using testing_support::readLines;
 namespace Osoba = personnel::Osoba;
 namespace Pay = payinputs::Pay;
@@ -114,7 +115,7 @@ TEST(Kartoteka, BlankPositionsStayBlankWhateverThePayRecordHolds) {
     p->set(Pay::BruttoOd01, 0.0);
     p->set(Pay::EFPomostowy, 1L);
     for (int n = Pay::BZP3dni; n <= Pay::Rezerwa106; ++n) p->set(n, n == Pay::BZP3dni ? "0" : "x");
-    d.zapiszPlace(place);
+    core::writeAll(d.dta(), place);
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     const auto r = rekord(readLines(d.payer() / "Karta" / "a2101.dta"), "80120356757");
     ASSERT_EQ(r.size(), static_cast<std::size_t>(Karta::Count));
@@ -128,7 +129,7 @@ TEST(Kartoteka, OnlyPeopleOnTheListAreWrittenAndCounted) {
     auto osoby = d.osoby();
     osoby[1].set(Osoba::Status, 2L);  // WIŚNIEWSKA: "Nie"
     osoby[3].set(Osoba::Status, 0L);  // KAMIŃSKA
-    d.zapiszOsoby(osoby);
+    core::writeAll(d.per(), osoby);
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     const auto karta = Karta::readAll(d.payer() / "Karta" / "a2101.dta");
     // The rest in the order of the personnel file; the file is read past the people skipped.
@@ -161,7 +162,7 @@ TEST(Kartoteka, SecondRunReplacesTheMonth) {
     auto place = d.place();
     DemoLista::znajdz(place, "80120356757", [](const core::Record& r) { return payinputs::kluczOsoby(r); })
         ->set(Pay::Zasadnicza, 5000.0f);
-    d.zapiszPlace(place);
+    core::writeAll(d.dta(), place);
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     const auto karta = Karta::readAll(d.payer() / "Karta" / "a2101.dta");
     ASSERT_EQ(karta.size(), 7u);
@@ -191,13 +192,13 @@ TEST(Kartoteka, EmptyListGivesAnEmptyFileAndTheBox) {
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     auto osoby = d.osoby();
     for (auto& o : osoby) o.set(Osoba::Status, 2L);
-    d.zapiszOsoby(osoby);
+    core::writeAll(d.per(), osoby);
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     EXPECT_EQ(testing_support::readBytes(d.payer() / "Karta" / "a2101.dta"), "");
     EXPECT_EQ(d.s.LiczbaOsob, 0);
     EXPECT_EQ(d.ui.last(), "[Kartoteka z listy plac a] Wykonano kartotekę za 2101");
     // A personnel file without any record at all.
-    d.zapiszOsoby({});
+    core::writeAll(d.per(), std::vector<core::Record>{});
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     EXPECT_EQ(testing_support::readBytes(d.payer() / "Karta" / "a2101.dta"), "");
 }
@@ -208,7 +209,7 @@ TEST(Kartoteka, ErrorLeavesTheOldLedgerWhole) {
     const std::string przed = testing_support::readBytes(d.payer() / "Karta" / "a2101.dta");
     auto place = d.place();
     place[3].setItem(Pay::Zasadnicza, core::Item::quoted("abc"));
-    d.zapiszPlace(place);
+    core::writeAll(d.dta(), place);
     EXPECT_THROW(cmdKartoteka(d.s, d.ui), core::Error);
     EXPECT_EQ(testing_support::readBytes(d.payer() / "Karta" / "a2101.dta"), przed);
 }
@@ -306,7 +307,7 @@ TEST(Kartoteka, PersonWithoutAPayRecordKeepsTheFiguresBeforeIt) {
     // result block of WIŚNIEWSKA, which his record carries under his own name and key.
     auto place = d.place();
     place.erase(place.begin() + 2);
-    d.zapiszPlace(place);
+    core::writeAll(d.dta(), place);
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     const auto karta = Karta::readAll(d.payer() / "Karta" / "a2101.dta");
     ASSERT_EQ(karta.size(), 7u);
@@ -325,4 +326,80 @@ TEST(Kartoteka, PersonWithoutAPayRecordKeepsTheFiguresBeforeIt) {
               "[Osoby bez danych płacowych] Te osoby listy nie mają danych płacowych:\n  ZIELIŃSKI PIOTR, 88110578938\n"
               "Ich rekordy w kartotece powtarzają kwoty osoby poprzedniej (także kwotę do wypłaty i konto) i muszą "
               "zostać poprawione przed wypłatami i przelewami.");
+}
+
+// Every field of the ledger from its own source: each source holds the number of the ledger
+// field it belongs to, so the record must read 1, 2, 3 ... with the blank positions and the
+// reserves empty.
+TEST(Kartoteka, EveryFieldComesFromItsOwnSource) {
+    core::Session s;
+    s.NazwiskoOsoby = "2", s.ImieOsoby = "3", s.KluczOsoby = "4", s.KodUbezpieczeniaOsoby = "5", s.DataListy = "133";
+    core::Stawki& st = s.stawki;
+    st.stZDI = 127, st.Kasach = 139, st.emerytalna = 141, st.rentowaPracownik = 142, st.chorobowa = 143;
+    st.wypadkowa = 144, st.rentowaPracodawca = 166;
+    core::WynikMiesiaca& w = s.wynik;
+    for (auto [pole, n] : std::initializer_list<std::pair<float core::WynikMiesiaca::*, int>>{
+             {&core::WynikMiesiaca::wZasadnicza, 6}, {&core::WynikMiesiaca::wFunkcyjny, 7},
+             {&core::WynikMiesiaca::wStazowy, 8}, {&core::WynikMiesiaca::wPremia, 9},
+             {&core::WynikMiesiaca::wSpecjalny, 10}, {&core::WynikMiesiaca::wInny, 11},
+             {&core::WynikMiesiaca::wMotywacyjny, 12}, {&core::WynikMiesiaca::wWiejski, 13},
+             {&core::WynikMiesiaca::wSpecjalistyczny, 14}, {&core::WynikMiesiaca::wWychowawczy, 15},
+             {&core::WynikMiesiaca::wTrudnosciowy, 16}, {&core::WynikMiesiaca::wEkwiwalent, 17},
+             {&core::WynikMiesiaca::wNocny, 18}, {&core::WynikMiesiaca::wWyrownania, 19},
+             {&core::WynikMiesiaca::wSzkodliwy, 20}, {&core::WynikMiesiaca::wStawkaPodatku, 21},
+             {&core::WynikMiesiaca::wNaROR, 27}, {&core::WynikMiesiaca::wKoszty, 30},
+             {&core::WynikMiesiaca::wMieszkaniowy, 32}, {&core::WynikMiesiaca::wRataZFM, 38},
+             {&core::WynikMiesiaca::wRataKZP, 41}, {&core::WynikMiesiaca::wSkladkaKZP, 42},
+             {&core::WynikMiesiaca::wZasilkiNaROR, 43}, {&core::WynikMiesiaca::wPotraceniaInne, 44},
+             {&core::WynikMiesiaca::wZwiazek, 45}, {&core::WynikMiesiaca::wSolidarnosc, 46},
+             {&core::WynikMiesiaca::wPZU, 47}, {&core::WynikMiesiaca::wPotracenie2, 48},
+             {&core::WynikMiesiaca::wPotraceniaPoZasilkach, 49}, {&core::WynikMiesiaca::wPotracenie1, 50},
+             {&core::WynikMiesiaca::wPodatekNaliczony, 89}, {&core::WynikMiesiaca::wWypadkowa, 95},
+             {&core::WynikMiesiaca::wRentowa, 101}, {&core::WynikMiesiaca::wEmerytalna, 107},
+             {&core::WynikMiesiaca::StawkaUrlopowa, 117}, {&core::WynikMiesiaca::wChorobowa, 131},
+             {&core::WynikMiesiaca::wZdrowotnaIndywidualna, 132}, {&core::WynikMiesiaca::wZaliczka, 134},
+             {&core::WynikMiesiaca::wBrutto, 135}, {&core::WynikMiesiaca::wPodstawaPodatku, 136},
+             {&core::WynikMiesiaca::wPodstawaZdrowotnej, 138}, {&core::WynikMiesiaca::wPodstawaZUS, 140},
+             {&core::WynikMiesiaca::wZdrowotnaOdliczana, 146}, {&core::WynikMiesiaca::wZasilki, 148},
+             {&core::WynikMiesiaca::wDoWyplaty, 149}, {&core::WynikMiesiaca::wChorobowePlatne, 151},
+             {&core::WynikMiesiaca::wPodstawaFP, 159}, {&core::WynikMiesiaca::wPodstawaFGSP, 161},
+             {&core::WynikMiesiaca::wRentowaPracodawcy, 167}, {&core::WynikMiesiaca::wNiedobor, 170},
+             {&core::WynikMiesiaca::wZasilkiDoKasy, 171}, {&core::WynikMiesiaca::wPodatekZasilki, 172},
+             {&core::WynikMiesiaca::wUlgaNiewykorzystana, 173}, {&core::WynikMiesiaca::wUlgaZastosowana, 174},
+             {&core::WynikMiesiaca::wUrlopowe, 175}, {&core::WynikMiesiaca::wZasilki311, 176}})
+        w.*pole = static_cast<float>(n);
+    w.DniUrlopu = 116, w.sumaChorobowePlatne = 168, w.sumaZasilki = 169;
+    auto nr = [](int n) { return core::Item::bare(std::to_string(n)); };
+    for (int i = 0; i < 6; ++i) w.wZasilek[static_cast<std::size_t>(i)] = nr(Karta::ZasilekPielegnacyjny + i);
+    for (int i = 0; i < 4; ++i) {
+        const int b = Karta::SredniaCH1 + 6 * i;
+        w.wLinie[static_cast<std::size_t>(i)] = {nr(b), nr(b + 1), nr(b + 2), nr(b + 3), nr(b + 4), nr(b + 5)};
+    }
+    w.wSredniaChorobowa = nr(Karta::SredniaChorobowa);
+    w.placa = core::Record(Pay::schema());
+    for (auto [pole, n] : {std::pair{Pay::KwotaUlgi, 31}, {Pay::UlgaInwestycyjna, 34}, {Pay::ZastosStaPOD, 35},
+                           {Pay::NumerKontaROR, 36}, {Pay::Dokument, 51}, {Pay::KwotaCh1, 83}, {Pay::KwotaCh2, 84},
+                           {Pay::KwotaCh3, 85}, {Pay::KwotaCh4, 86}, {Pay::Emerytalna, 152}, {Pay::Rentowa, 153},
+                           {Pay::Chorobowa, 154}, {Pay::Wypadkowa, 155}, {Pay::Zdrowotna, 156}})
+        w.placa.set(pole, std::to_string(n));
+    core::Record o = Osoba::pusty();
+    for (auto [pole, n] : {std::pair{Osoba::Obywatelstwo, 52}, {Osoba::Grupa, 87}, {Osoba::Kod, 118},
+                           {Osoba::Miejscowosc, 119}, {Osoba::Ulica, 120}, {Osoba::NrDomu, 121}, {Osoba::Lokal, 122},
+                           {Osoba::DataUrodzenia, 126}, {Osoba::Etat, 147}, {Osoba::Status, 150},
+                           {Osoba::WskaznikFP, 158}, {Osoba::FGSP, 160}, {Osoba::DowodOsobisty, 162},
+                           {Osoba::UrzadSkarbowy, 165}})
+        o.set(pole, std::to_string(n));
+
+    testing_support::TempDir dir;
+    core::writeAll(dir / "karta.dta", std::vector<core::Record>{rekordKarty(s, o)});
+    const auto lines = readLines(dir / "karta.dta");
+    ASSERT_EQ(lines.size(), static_cast<std::size_t>(Karta::Count));
+    EXPECT_EQ(lines.front(), "\"<Poczatek>\"");
+    EXPECT_EQ(lines.back(), "\"<Koniec>\"");
+    for (int n = 2; n < Karta::Count; ++n) {
+        const auto& pole = Karta::schema().fields[static_cast<std::size_t>(n - 1)];
+        const bool pusta = pole.type == core::FieldType::Blank || pole.name.starts_with("Rezerwa");
+        EXPECT_EQ(core::Replace(lines[static_cast<std::size_t>(n - 1)], "\"", ""), pusta ? "" : std::to_string(n))
+            << "pole " << n << " " << pole.name;
+    }
 }

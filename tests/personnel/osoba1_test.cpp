@@ -2,14 +2,14 @@
 
 #include "core/screens.h"
 #include "core/text.h"
-#include "personnel/demo_list.h"
+#include "support/demo.h"
 #include "personnel/osoba1.h"
 #include "personnel/person_record.h"
 #include "personnel/sortuj.h"
 #include "support/scripted.h"
 
 using namespace personnel;
-using personnel_test::DemoList;
+using DemoList = testing_support::DemoLista;
 using testing_support::readBytes;
 using testing_support::ScriptedDialogs;
 
@@ -91,6 +91,8 @@ TEST(Osoba1, ValidationOfSaveInItsOrder) {
         {"no insurance code", [](Osoba1Screen& f) { f.txtKodUbezpieczenia.Text = ""; },
          {"[Wpisz Kod ubezpieczenia!] Brak wpisu nr Kodu ubezpieczenia"}, "txtKodUbezpieczenia"},
         {"short birth date", [](Osoba1Screen& f) { f.txtDataUrodzenia.Text = "1-3-1975"; },
+         {"[Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !] Brak daty urodzenia"}, "txtDataUrodzenia"},
+        {"birth date of 11", [](Osoba1Screen& f) { f.txtDataUrodzenia.Text = "01-03-19750"; },
          {"[Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !] Brak daty urodzenia"}, "txtDataUrodzenia"},
     };
     for (const Case& c : cases) {

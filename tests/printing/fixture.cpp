@@ -1,9 +1,6 @@
 #include "fixture.h"
 
 #include "paycalc/karta_record.h"
-#include "reference/catalogue.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
 
 namespace K = paycalc::Karta;
 
@@ -101,20 +98,7 @@ std::vector<core::Record> demoListaA() {
     };
 }
 
-Dane::Dane(const std::string& dataListy) {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = dataListy;
-    reference::selectPayer(s);
-    reference::loadRates(s);
-    auto lines = reference::Instal::read(s);
-    int i = reference::Instal::findByStem(lines, "a");
-    s.NazwaListy = lines[static_cast<std::size_t>(i)].s(reference::Instal::NazwaListy);
-    s.NazwaZbioru = "a";
-    s.Grupa = "a";
-    s.NumerListy = lines[static_cast<std::size_t>(i)].s(reference::Instal::NumerListy);
-}
+Dane::Dane(const std::string& dataListy) : Demo(dataListy) { lista("a"); }
 
 void Dane::karta(const std::vector<core::Record>& recs) {
     core::writeAll(K::path(s), recs);

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/text.h"
-#include "demo_fixture.h"
+#include "support/demo.h"
 #include "reference/catalogue.h"
 #include "reference/instalacja.h"
 #include "support/scripted.h"
@@ -9,7 +9,7 @@
 namespace fs = std::filesystem;
 using core::Answer;
 using reference::InstalacjaScreen;
-using reference_tests::Demo;
+using testing_support::Demo;
 using testing_support::readBytes;
 using testing_support::readLines;
 using testing_support::ScriptedDialogs;

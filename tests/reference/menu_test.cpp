@@ -8,7 +8,7 @@
 #include "core/numbers.h"
 #include "core/screens.h"
 #include "core/text.h"
-#include "demo_fixture.h"
+#include "support/demo.h"
 #include "reference/mojafirma.h"
 #include "reference/place.h"
 #include "reference/pomoc.h"
@@ -17,7 +17,7 @@
 
 namespace fs = std::filesystem;
 using core::Answer;
-using reference_tests::Demo;
+using testing_support::Demo;
 using testing_support::readBytes;
 using testing_support::ScriptedDialogs;
 

@@ -4,7 +4,7 @@
 
 #include "core/paths.h"
 #include "core/text.h"
-#include "demo_fixture.h"
+#include "support/demo.h"
 #include "reference/catalogue.h"
 #include "reference/mojafirma.h"
 #include "reference/payers.h"
@@ -14,7 +14,7 @@
 
 namespace fs = std::filesystem;
 using core::Answer;
-using reference_tests::Demo;
+using testing_support::Demo;
 using testing_support::readBytes;
 using testing_support::readLines;
 using testing_support::ScriptedDialogs;

@@ -1,23 +1,15 @@
 #include "fixture.h"
 
 #include "paycalc/karta_record.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
 
 namespace K = paycalc::Karta;
 namespace D = paycalc::Dodatkowy;
 
 namespace tax_tests {
 
-Dane::Dane() {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
+Dane::Dane() : Demo("31-01-2021") {
     // Without the demo's January overtime and additions: each test writes the files it sums.
-    for (const char* f : {"Godziny/aGod2101.dta", "Dodatki/aDod2101.dta"}) std::filesystem::remove(dir.path() / "DEMO" / f);
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = "31-01-2021";
-    reference::selectPayer(s);
-    reference::loadRates(s);
+    for (const char* f : {"Godziny/aGod2101.dta", "Dodatki/aDod2101.dta"}) std::filesystem::remove(payer() / f);
     s.NazwaZbioru = "a";
     s.KluczOsoby = kNowak;
     s.NazwiskoOsoby = "NOWAK";

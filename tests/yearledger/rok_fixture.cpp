@@ -5,8 +5,6 @@
 #include "core/paths.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
 
 namespace K = paycalc::Karta;
 namespace D = paycalc::Dodatkowy;
@@ -66,17 +64,11 @@ core::Record dodatkowy(std::vector<std::pair<int, double>> pola) {
     return r;
 }
 
-Rok::Rok() {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
+Rok::Rok() : Demo("31-12-2020") {
     // The year is made here alone: the demo year's ledgers and supplementary files go.
     for (const char* f : {"Karta", "Godziny", "Dodatki", "Trzynastki", "Jubileu", "Urlopy"})
-        for (const auto& e : std::filesystem::directory_iterator(dir.path() / "DEMO" / f))
+        for (const auto& e : std::filesystem::directory_iterator(payer() / f))
             if (e.path().extension() == ".dta") std::filesystem::remove(e.path());
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = "31-12-2020";
-    reference::selectPayer(s);
-    reference::loadRates(s);
     s.NazwaZbioru = "a";
     s.Grupa = "a";
     s.KluczOsoby = kKlucz;

@@ -2,8 +2,6 @@
 
 #include "paycalc/karta_record.h"
 #include "reference/catalogue.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
 #include "zus/rcp_record.h"
 
 namespace K = paycalc::Karta;
@@ -12,13 +10,7 @@ namespace R = zus::Rcp;
 
 namespace zfx {
 
-Platnik::Platnik() {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = "31-01-2021";
-    reference::selectPayer(s);
-    reference::loadRates(s);
+Platnik::Platnik() : Demo("31-01-2021") {
     s.NazwaZbioru = "a";
     s.Grupa = "a";
 }
