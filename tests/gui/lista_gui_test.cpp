@@ -10,6 +10,7 @@
 #include "gui/formview.h"
 #include "gui/qtdialogs.h"
 #include "gui_support.h"
+#include "support/tempdir.h"
 #include "paycalc/karta_record.h"
 #include "paycalc/lista.h"
 #include "support/scripted.h"

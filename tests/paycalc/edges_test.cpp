@@ -27,6 +27,8 @@ struct Row {
     const char* skrot = "FIRMA";  // the payer
 };
 
+void PrintTo(const Row& r, std::ostream* os) { *os << r.name; }
+
 class Edge : public testing::TestWithParam<Row> {};
 
 TEST_P(Edge, Month) {

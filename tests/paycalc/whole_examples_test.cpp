@@ -66,6 +66,8 @@ struct Miesiac {
     std::function<void(const core::WynikMiesiaca&)> dalej = {};
 };
 
+void PrintTo(const Miesiac& m, std::ostream* os) { *os << m.name; }
+
 class WholeMonth : public testing::TestWithParam<Miesiac> {};
 
 TEST_P(WholeMonth, EveryFieldOfTheResult) {

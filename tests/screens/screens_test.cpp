@@ -93,6 +93,8 @@ struct Zapis {
     std::function<void(testing_support::Demo&)> przygotuj = {};
 };
 
+void PrintTo(const Zapis& z, std::ostream* os) { *os << z.name; }
+
 class ScreenRoundTrip : public testing::TestWithParam<Zapis> {};
 
 // Opens the screen on every person of the lists (once on list "a" when none are named) and
