@@ -6,6 +6,7 @@
 #include <cctype>
 #include <functional>
 
+#include "core/text.h"
 #include "fixture.h"
 #include "payinputs/pay_record.h"
 #include "personnel/person_record.h"
@@ -42,10 +43,15 @@ TEST_P(Edge, Month) {
     r.check(l.s.wynik);
 }
 
-// The row's name as a test name: letters and digits, the rest "_".
+// The row's name as a test name: Polish letters without their marks, other signs as one "_".
 std::string nazwa(const testing::TestParamInfo<Row>& i) {
-    std::string out;
-    for (unsigned char c : std::string(i.param.name)) out += std::isalnum(c) ? static_cast<char>(c) : '_';
+    std::string n = i.param.name, out;
+    for (auto [pl, a] : {std::pair{"ą", "a"}, {"ć", "c"}, {"ę", "e"}, {"ł", "l"}, {"ń", "n"}, {"ó", "o"}, {"ś", "s"},
+                         {"ź", "z"}, {"ż", "z"}, {"Ś", "S"}, {"Ż", "Z"}})
+        n = core::Replace(n, pl, a);
+    for (unsigned char c : n)
+        if (std::isalnum(c)) out += static_cast<char>(c);
+        else if (out.empty() || out.back() != '_') out += '_';
     return out;
 }
 
