@@ -26,6 +26,7 @@
 #include "leave/czas_pracy.h"
 #include "leave/srednia.h"
 #include "leave/urlopy_ekran.h"
+#include "paycalc/karta_record.h"
 #include "paycalc/kartoteka.h"
 #include "paycalc/lista.h"
 #include "payinputs/placa.h"
@@ -179,9 +180,21 @@ const Obraz kObrazy[] = {
          klik(z, "CmdPolacz");
      },
      ekran<zus::RCPScreen>(), nullptr, 1300, 560},
-    {"frmDoBanku", kartoteki, ekran<bank::DoBankuScreen>(),
+    {"frmDoBanku",
+     [](Demo& d) {
+         kartoteki(d);  // then a part of each pay to the account of the ledger
+         auto recs = paycalc::Karta::readAll(paycalc::Karta::path(d.s));
+         for (std::size_t i = 0; i < recs.size(); ++i) {
+             recs[i].set(paycalc::Karta::NaROR, 1500.0 + 125.5 * static_cast<double>(i));
+             recs[i].set(paycalc::Karta::NumerKonta, "60102010260000123456789012");
+         }
+         core::writeAll(paycalc::Karta::path(d.s), recs);
+     },
+     ekran<bank::DoBankuScreen>(),
      [](core::Form& f) {
-         static_cast<bank::DoBankuScreen&>(f).txtNrUnikatowy.Text = "1020";
+         auto& nr = static_cast<bank::DoBankuScreen&>(f).txtNrUnikatowy;
+         nr.Text = "1020";
+         f.fire(nr, &core::Control::Change);
          klik(f, "CmdUtworzRor");
      },
      1200, 620},
