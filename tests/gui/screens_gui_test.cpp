@@ -1,6 +1,7 @@
 // Every screen built by the generic binding on the demo data: a screenshot of each
-// (build/screenshots/<name>.png), and one test for each kind of control the binding carries
-// between the screen and its widgets. What the screens compute is checked by the engine tests.
+// (build/screenshots/<name>.png; frmPodatki and the main window in reference_gui_test.cpp), and
+// one test for each kind of control the binding carries between the screen and its widgets.
+// What the screens compute is checked by the engine tests.
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -40,7 +41,6 @@
 #include "printing/podglad.h"
 #include "reference/instalacja.h"
 #include "reference/mojafirma.h"
-#include "reference/podatki.h"
 #include "reference/pomoc.h"
 #include "reference/wybor.h"
 #include "support/demo.h"
@@ -135,7 +135,6 @@ const Obraz kObrazy[] = {
      },
      [](core::Form& f) { klik(f, "cmdWylicz"); }},
     {"frmlista", [](Demo& d) { d.lista("a"); }, ekran<paycalc::ListaScreen>()},
-    {"frmPodatki", nullptr, ekran<reference::PodatkiScreen>()},
     {"frmMojaFirma", nullptr, ekran<reference::MojaFirmaScreen>()},
     {"frmInstalacja", nullptr, ekran<reference::InstalacjaScreen>()},
     {"frmwybor", nullptr, ekran<reference::WyborScreen>()},
