@@ -1,6 +1,7 @@
 #include "fixture.h"
 
 #include "paycalc/karta_record.h"
+#include "support/ledger.h"
 
 namespace K = paycalc::Karta;
 
@@ -8,16 +9,8 @@ namespace printing_tests {
 
 core::Record osoba(const std::string& nazwisko, const std::string& imie, std::vector<std::pair<int, double>> kwoty,
                    std::vector<std::pair<int, std::string>> teksty) {
-    core::Record r(K::schema());
-    r.set(K::Poczatek, "<Poczatek>");
-    r.set(K::Nazwisko, nazwisko);
-    r.set(K::Imie, imie);
-    r.set(K::DataListy, "31/01/2021");
-    r.set(K::NaLiscie, 1);
-    r.set(K::Koniec, "<Koniec>");
-    for (auto& [n, v] : kwoty) r.set(n, v);
-    for (auto& [n, t] : teksty) r.set(n, t);
-    return r;
+    teksty.insert(teksty.begin(), {K::DataListy, "31/01/2021"});
+    return testing_support::rekordKarty(nazwisko, imie, "", kwoty, teksty);
 }
 
 core::Record kowalski() {
