@@ -17,45 +17,6 @@ namespace Pay = payinputs::Pay;
 
 namespace {
 
-// DĄBROWSKI MAREK of the demo list on the list of 31-01-2021, worked out by hand from the
-// rates of 2021 (pension 19.52 / 2, disability 1.5 and 6.5, sickness 2.45, accident 1.67,
-// health 9 and 1.25, tax 17 %, relief 43.76):
-//   base 4600, seniority from 01-04-2012: 8 full years, 8 % = 368, bonus 0.2 x 4600 = 920,
-//   gross 5888 = contribution base; pension 574.6688 -> 574.67, disability 88.32, sickness
-//   144.256 -> 144.26, accident 98.3296 -> 98.33, employer's disability 382.72;
-//   employee contributions 807.25; tax base 5888 - 250 - 807.25 = 4830.75 -> 4831;
-//   health base 5080.75, health 9 % 457.27, of it 1.25 % = 63.51 borne, 393.76 deducted;
-//   tax 0.17 x 4831 = 821.27 - 43.76 = 777.51, - 393.76 = 383.75 -> 384;
-//   deductions 63.51 + 807.25 + 384 + 393.76 = 1648.52; net and payment 4239.48, no account.
-const std::vector<std::string> kDabrowski = {
-    "\"<Poczatek>\"", "\"DĄBROWSKI\"", "\"MAREK\"", "\"80120356757\"", "\"011000\"",
-    "4600", "0", "368", "920", "0", "0", "0", "0", "0", "0",                // 6-15
-    "0", "0", "0", "0", "0", "0.17",                                       // 16-21
-    "", "", "", "", "",                                                    // 22-26 blank
-    "0", "", "", "250", "43.76", "0", "", "0", "0.17", "\"\"",             // 27-36
-    "", "0", "", "", "0", "0", "0", "0", "0", "0",                         // 37-46
-    "0", "0", "0", "0", "\"\"", "\"POLSKIE\"",                             // 47-52
-    "0", "0", "0", "0", "0", "0",                                          // 53-58 benefits
-    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 59-64 sick line 1
-    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 65-70
-    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 71-76
-    "0", "0", "\"\"", "\"\"", "\"\"", "0",                                 // 77-82
-    "0", "0", "0", "0",                                                    // 83-86
-    "\"a\"", "", "777.51", "", "", "", "", "", "98.33",                    // 87-95
-    "", "", "", "", "", "88.32",                                           // 96-101
-    "", "", "", "", "", "574.67",                                          // 102-107
-    "", "", "", "", "", "", "", "",                                        // 108-115
-    "0", "0", "\"32-440\"", "\"Sułkowice\"", "\"Bałtycka\"", "\"5\"", "\"\"",  // 116-122
-    "", "", "", "\"03-12-1980\"", "1.25", "0", "", "",                     // 123-130
-    "144.26", "63.51", "\"31-01-2021\"", "384", "5888", "4831", "",        // 131-137
-    "5080.75", "9", "5888", "0.0976", "0.015", "0.0245", "0.0167", "",     // 138-145
-    "393.76", "\"  1  1\"", "0", "4239.48", "1", "0",                      // 146-151
-    "1", "1", "1", "1", "1", "",                                           // 152-157
-    "\"\"", "5888", "\"\"", "5888", "\"AKS 330917\"", "", "",              // 158-164
-    "\"Urząd Skarbowy Kraków-Podgórze\"", "0.065", "382.72",               // 165-167
-    "0", "0", "0", "0", "0", "0", "43.76", "0", "0", "\"<Koniec>\"",       // 168-177
-};
-
 // The lines of the ledger record whose key (line 4) is `klucz`.
 std::vector<std::string> rekord(const std::vector<std::string>& lines, const std::string& klucz) {
     for (std::size_t i = 0; i + Karta::Count <= lines.size(); i += Karta::Count)
@@ -75,6 +36,8 @@ std::vector<std::string> klucze(const std::vector<core::Record>& karta) {
 
 TEST(Kartoteka, RecordOfAPersonLineByLine) {
     DemoLista d;
+    // DĄBROWSKI MAREK of the demo list as the file holds him, worked out by hand in data/README.md.
+    const auto kDabrowski = readLines(std::filesystem::path(PENSJA_TEST_DATA).parent_path() / "paycalc" / "data" / "karta_dabrowski.txt");
     ASSERT_EQ(kDabrowski.size(), static_cast<std::size_t>(Karta::Count));
     ASSERT_TRUE(cmdKartoteka(d.s, d.ui));
     const auto path = d.payer() / "Karta" / "a2101.dta";
