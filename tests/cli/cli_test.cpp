@@ -197,43 +197,30 @@ TEST(LedgerCli, YearlyBase) {
     EXPECT_EQ(d.cli({"base", "a"}).status, 2);
 }
 
-TEST(LedgerCli, CloseMonthOnceAMonth) {
+// The commands' wiring: what they say and their status (their rules are the engine tests').
+TEST(LedgerCli, CommandsAndTheirRefusals) {
     Demo d;
-    // January asks about the year start: --no closes an ordinary month.
-    auto r = d.cli({"--no", "close-month", "a"});
-    ASSERT_EQ(r.status, 0) << r.err;
-    EXPECT_TRUE(zawiera(r.err, "[Przygotowanie bazy do nowego roku ]")) << r.err;
-    EXPECT_TRUE(zawiera(r.out, "Wykonane !")) << r.out;
-    const std::string po = readBytes(d.baza());
-    EXPECT_TRUE(zawiera(po, "\"31-01-2021\"\r\n"));
-    r = d.cli({"--yes", "close-month", "a"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_TRUE(zawiera(r.err, " Zerowanie było już w tym miesiacu wykonane ! ")) << r.err;
-    EXPECT_EQ(readBytes(d.baza()), po);
-}
-
-TEST(LedgerCli, CalibrateTwiceGivesTheSameFile) {
-    Demo d;
-    auto r = d.cli({"calibrate", "a"});
-    ASSERT_EQ(r.status, 0) << r.err;
-    EXPECT_TRUE(zawiera(r.err, "[Kalibracja bazy zostala wykonana]  Wykonano")) << r.err;
-    EXPECT_TRUE(zawiera(r.out, "rekordów płacowych: 7")) << r.out;
-    const std::string raz = readBytes(d.baza());
-    ASSERT_EQ(d.cli({"calibrate", "a"}).status, 0);
-    EXPECT_EQ(readBytes(d.baza()), raz);
-}
-
-TEST(LedgerCli, BadArguments) {
-    Demo d;
-    for (const std::vector<std::string>& args :
-         {std::vector<std::string>{"ledger"}, {"ledger", "a", "b"}, {"ledger", "../a"}, {"close-month"}, {"calibrate"}}) {
-        auto r = d.cli(args);
-        EXPECT_EQ(r.status, 2) << args[0];
+    struct {
+        std::vector<std::string> args;
+        int status;
+        const char* says;  // on standard output or error
+    } cases[] = {
+        {{"--no", "close-month", "a"}, 0, "Wykonane !"},  // January: --no closes an ordinary month
+        {{"--yes", "close-month", "a"}, 1, " Zerowanie było już w tym miesiacu wykonane ! "},
+        {{"calibrate", "a"}, 0, "rekordów płacowych: 7"},
+        {{"--yes", "ledger", "zz"}, 1, "53"},  // a list without files
+        {{"rcp"}, 1, "Zestawienie to można wykonać tylko po wykonaniu zestawu RCP do ZUS !"},
+        {{"ledger"}, 2, ""},
+        {{"ledger", "a", "b"}, 2, ""},
+        {{"ledger", "../a"}, 2, ""},
+        {{"close-month"}, 2, ""},
+        {{"calibrate"}, 2, ""},
+    };
+    for (const auto& c : cases) {
+        auto r = d.cli(c.args);
+        EXPECT_EQ(r.status, c.status) << c.args.back() << r.err;
+        EXPECT_TRUE(zawiera(r.out + r.err, c.says)) << r.out << r.err;
     }
-    // A list without files: the error box of the missing personnel file.
-    auto r = d.cli({"--yes", "ledger", "zz"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_TRUE(zawiera(r.err, "53")) << r.err;
 }
 
 TEST(LedgerCli, PeopleWithoutAPayRecordAreNamedOnStandardError) {
@@ -371,11 +358,4 @@ TEST(ZusCli, MergeSettlementReviewAndRegistration) {
     EXPECT_EQ(ile(testing_support::readLines(d.dir.path() / "DEMO" / "Zgloszeniowe" / "ZUAa.KDU"), "<ZUSZUA.DP>"), 7u);
 
     EXPECT_EQ(d.cli({"kedu", "--zestaw", "A"}).status, 2);
-}
-
-TEST(ZusCli, ReviewWithoutMergeSaysSo) {
-    Demo d;
-    auto r = d.cli({"rcp"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_NE(r.err.find("Zestawienie to można wykonać tylko po wykonaniu zestawu RCP do ZUS !"), std::string::npos);
 }
