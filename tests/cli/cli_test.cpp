@@ -231,8 +231,8 @@ TEST(LedgerCli, PeopleWithoutAPayRecordAreNamedOnStandardError) {
     testing_support::writeLines(d.baza(), lines);
     auto r = d.cli({"--yes", "ledger", "a"});
     EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_TRUE(zawiera(r.err, "[Osoby bez danych płacowych] Te osoby listy nie mają danych płacowych:\n"
-                               "  ZIELIŃSKI PIOTR, 88110578938\nIch rekordy")) << r.err;
+    EXPECT_TRUE(zawiera(r.err, "[Osoby bez danych płacowych]")) << r.err;
+    EXPECT_TRUE(zawiera(r.err, "ZIELIŃSKI PIOTR, 88110578938")) << r.err;
     EXPECT_TRUE(zawiera(r.out, "osób: 7")) << r.out;
 }
 

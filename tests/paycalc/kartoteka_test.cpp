@@ -257,10 +257,8 @@ TEST(Kartoteka, PersonWithoutAPayRecordKeepsTheFiguresBeforeIt) {
     // After the closing box one warning names him, as the bank would otherwise pay twice.
     ASSERT_EQ(d.ui.boxes.size(), 3u);
     EXPECT_EQ(d.ui.lines()[1], "[Kartoteka z listy plac a] Wykonano kartotekę za 2101");
-    EXPECT_EQ(d.ui.last(),
-              "[Osoby bez danych płacowych] Te osoby listy nie mają danych płacowych:\n  ZIELIŃSKI PIOTR, 88110578938\n"
-              "Ich rekordy w kartotece powtarzają kwoty osoby poprzedniej (także kwotę do wypłaty i konto) i muszą "
-              "zostać poprawione przed wypłatami i przelewami.");
+    EXPECT_EQ(d.ui.boxes.back().title, "Osoby bez danych płacowych");
+    EXPECT_NE(d.ui.last().find("ZIELIŃSKI PIOTR, 88110578938"), std::string::npos);
 }
 
 // Every field of the ledger from its own source: each source holds the number of the ledger
