@@ -5,6 +5,7 @@
 
 #include <cctype>
 #include <functional>
+#include <variant>
 
 #include "core/text.h"
 #include "fixture.h"
@@ -62,6 +63,14 @@ std::function<void(const WynikMiesiaca&)> pola(std::vector<std::pair<std::string
     };
 }
 
+// A change of the row: the pay record's fields set to the values, each by its own type.
+std::function<void(core::Record&, core::Record&)> placa(
+    std::vector<std::pair<int, std::variant<long, float, double, std::string>>> pola) {
+    return [pola](core::Record& p, core::Record&) {
+        for (const auto& [pole, v] : pola) std::visit([&, pole = pole](const auto& x) { p.set(pole, x); }, v);
+    };
+}
+
 void bzp3(core::Record& p) { p.set(Pay::BZP1dni, 3L); }
 
 void sick(core::Record& p, int line, double rate, double days, const char* code, double percent) {
@@ -90,18 +99,12 @@ const Row kDni[] = {
     // 31 unpaid days: capped at 30 for the allowance, the absence 31 cut to 30, f = 0; in a
     // 31-day month the zeroing does not run; the housing allowance stays payable
     {"31 dni bezpłatnych w styczniu", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::BZP1dni, 31L);
-         p.set(Pay::Mieszkaniowy, 100.0f);
-     },
+     placa({{Pay::BZP1dni, 31L}, {Pay::Mieszkaniowy, 100.0f}}),
      pola({{"dniBezplatne", 30.0f}, {"dniNieobecnosci", 30}, {"wspolczynnik", 0.0}, {"wZasadnicza", 0.0f},
            {"wMieszkaniowy", 100.0f}, {"mieszkaniowyUdzial", 0.0f}, {"wBrutto", 100.0f}})},
     // an owner's day base is 31 in January, so 31 unpaid days stay 31
     {"051: 31 dni bezpłatnych", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::KodUbezpieczenia, "051000");
-         p.set(Pay::BZP1dni, 31L);
-     },
+     placa({{Pay::KodUbezpieczenia, "051000"}, {Pay::BZP1dni, 31L}}),
      pola({{"dniBezplatne", 31.0f}})},
     // 28 days absent in February count as 30: f = 0
     {"28 dni lutego to 30", "28-02-2009", 3000, [](core::Record& p, core::Record&) { p.set(Pay::BZP1dni, 28L); },
@@ -109,11 +112,7 @@ const Row kDni[] = {
     // 29 days in February: f = 1/30 (100.00) but 29 >= 28 zeroes the reduced elements;
     // the housing allowance and its share Round2(100 / 30) = 3.33 stay
     {"29 dni lutego zeruje", "28-02-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::BZP1dni, 29L);
-         p.set(Pay::Mieszkaniowy, 100.0f);
-         p.set(Pay::Funkcyjny, 300.0f);
-     },
+     placa({{Pay::BZP1dni, 29L}, {Pay::Mieszkaniowy, 100.0f}, {Pay::Funkcyjny, 300.0f}}),
      pola({{"dniNieobecnosci", 29}, {"wZasadnicza", 0.0f}, {"wFunkcyjny", 0.0f}, {"wMieszkaniowy", 100.0f},
            {"mieszkaniowyUdzial", 3.33f}})},
     // hired on the 15th: 15/30 absent (not 14), 1500.00
@@ -165,17 +164,11 @@ const Row kStaz[] = {
      },
      pola({{"stazProcent", 4}, {"wStazowy", 120.0f}, {"wBrutto", 3120.0f}})},
     {"DodatekStazowy 1: kwota z zapisu", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::DodatekStazowy, "1");
-         p.set(Pay::Stazowy, 200.0f);
-     },
+     placa({{Pay::DodatekStazowy, "1"}, {Pay::Stazowy, 200.0f}}),
      pola({{"wStazowy", 200.0f}})},
     // "0" computes as "" does: 10 years, 10 % of 3000
     {"DodatekStazowy 0 liczy", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::DodatekStazowy, "0");
-         p.set(Pay::DataZatrudnienia, "01/01/1999");
-     },
+     placa({{Pay::DodatekStazowy, "0"}, {Pay::DataZatrudnienia, "01/01/1999"}}),
      [](const WynikMiesiaca& w) {
          EXPECT_EQ(w.wStazowy, 300.0f);
          EXPECT_EQ(w.stazowyZUS, 300.0f);
@@ -351,11 +344,7 @@ const Row kSkladki[] = {
            {"wWypadkowa", 54.0f}})},
     // all three off: no base, so no sickness and no accident either
     {"bez składek", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::Rentowa, 0L);
-         p.set(Pay::Emerytalna, 0L);
-         p.set(Pay::Chorobowa, 0L);
-     },
+     placa({{Pay::Rentowa, 0L}, {Pay::Emerytalna, 0L}, {Pay::Chorobowa, 0L}}),
      pola({{"wPodstawaZUS", 0.0f}, {"wWypadkowa", 0.0f}, {"sumaSkladekPracownika", 0.0f}, {"wPodstawaFP", 0.0f}})},
     {"wypadkowa wyłączona", "31-01-2009", 3000, [](core::Record& p, core::Record&) { p.set(Pay::Wypadkowa, 0L); },
      pola({{"wWypadkowa", 0.0f}, {"wChorobowa", 73.50f}})},
@@ -370,10 +359,7 @@ const Row kPodatek[] = {
     // joint settlement over the threshold (BruttoOd01 100000): 18 % of 2815 = 506.70, less
     // 46.33 = 460.37, less 226.81 = 233.56 -> 234
     {"rozliczenie wspólne", "31-12-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::BruttoOd01, 100000.0);
-         p.set(Pay::RozliczenieWspolne, "1");
-     },
+     placa({{Pay::BruttoOd01, 100000.0}, {Pay::RozliczenieWspolne, "1"}}),
      pola({{"wStawkaPodatku", 0.18f}, {"wPodatekNaliczony", 460.37f}, {"wZaliczka", 234.0f}})},
     // investment relief 50: 199 - 50 = 149
     {"ulga inwestycyjna", "31-01-2009", 3000, [](core::Record& p, core::Record&) { p.set(Pay::UlgaInwestycyjna, 50.0f); },
@@ -385,10 +371,7 @@ const Row kPodatek[] = {
     // without the monthly relief the investment relief is not applied: 445.86 - 200.62 =
     // 245.24 -> 245
     {"ulga inwestycyjna bez ulgi", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::UlgaInwestycyjna, 50.0f);
-         p.set(Pay::KwotaUlgi, 0.0f);
-     },
+     placa({{Pay::UlgaInwestycyjna, 50.0f}, {Pay::KwotaUlgi, 0.0f}}),
      pola({{"wUlgaZastosowana", 0.0f}, {"wZaliczka", 245.0f}})},
     // health above the tax: 600.00: contributions 58.56 + 9.00 + 14.70 = 82.26, tax base
     // 406.49 -> 406, health base 517.74: 46.60 and 6.47, deductible 40.13; 18 % of 406 =
@@ -414,10 +397,7 @@ const Row kPodatek[] = {
            {"wNetto", 388.31f}})},
     // a commuter with costs typed below 0 keeps them as an amount
     {"dojeżdżający z kosztami ujemnymi", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::Dojazd, "1");
-         p.set(Pay::KosztyUzyskania, -5.0f);
-     },
+     placa({{Pay::Dojazd, "1"}, {Pay::KosztyUzyskania, -5.0f}}),
      pola({{"wKoszty", -5.0f}})},
     // costs as a fraction 0.2 of base pay less contributions: (3000 - 411.30) * 0.2 = 517.74
     {"koszty ułamkiem", "31-01-2009", 3000, [](core::Record& p, core::Record&) { p.set(Pay::KosztyUzyskania, 0.2f); },
@@ -532,12 +512,7 @@ TEST(Edges, Deductions) {
 // Amounts at 1 and above are taken as they are; Potracenie1 at or below 0 is a fraction.
 const Row kPotracenia[] = {
     {"kwoty", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::Solidarnosc, 20.0f);
-         p.set(Pay::Zwiazek, 1.0f);
-         p.set(Pay::KZPSkladka, 25.0f);
-         p.set(Pay::Potracenie1, 50.0f);
-     },
+     placa({{Pay::Solidarnosc, 20.0f}, {Pay::Zwiazek, 1.0f}, {Pay::KZPSkladka, 25.0f}, {Pay::Potracenie1, 50.0f}}),
      pola({{"wSolidarnosc", 20.0f}, {"wZwiazek", 1.0f}, {"wSkladkaKZP", 25.0f}, {"wPotracenie1", 50.0f}})},
     {"potrącenie ujemne", "31-01-2009", 3000, [](core::Record& p, core::Record&) { p.set(Pay::Potracenie1, -0.01f); },
      pola({{"wPotracenie1", -30.0f}})},
@@ -549,13 +524,8 @@ INSTANTIATE_TEST_SUITE_P(Deductions, Edge, testing::ValuesIn(kPotracenia), nazwa
 const Row kWyplata[] = {
     // 2156.72 + 100 + 50 + 30 (benefits 1, 2, 4; the third is not paid here) - 20
     {"zasiłki i potrącenie po nich", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::Zasilek1, 100.0);
-         p.set(Pay::Zasilek2, 50.0);
-         p.set(Pay::Zasilek3, 999.0);
-         p.set(Pay::Zasilek4, 30.0);
-         p.set(Pay::PotraceniaPoZasilkach, 20.0f);
-     },
+     placa({{Pay::Zasilek1, 100.0}, {Pay::Zasilek2, 50.0}, {Pay::Zasilek3, 999.0}, {Pay::Zasilek4, 30.0},
+            {Pay::PotraceniaPoZasilkach, 20.0f}}),
      [](const WynikMiesiaca& w) {
          EXPECT_FLOAT_EQ(w.wDoWyplaty, 2316.72f);
          EXPECT_EQ(w.wPotraceniaPoZasilkach, 20.0f);
@@ -565,17 +535,11 @@ const Row kWyplata[] = {
     {"niedobór", "31-01-2009", 3000, [](core::Record& p, core::Record&) { p.set(Pay::PotraceniaPoZasilkach, 3000.0f); },
      pola({{"wDoWyplaty", -843.28f}, {"wNiedobor", 843.28f}})},
     {"całość na konto", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::ROR, 5000.0);
-         p.set(Pay::NumerKontaROR, "11 2222");
-     },
+     placa({{Pay::ROR, 5000.0}, {Pay::NumerKontaROR, "11 2222"}}),
      pola({{"wNaROR", 2156.72f}, {"wDoWyplaty", 0.0f}})},
     // 2156.72 - 1000.004 = 1156.716 in cash, rounded -> 1156.72
     {"część na konto", "31-01-2009", 3000,
-     [](core::Record& p, core::Record&) {
-         p.set(Pay::ROR, 1000.004);
-         p.set(Pay::NumerKontaROR, "11 2222");
-     },
+     placa({{Pay::ROR, 1000.004}, {Pay::NumerKontaROR, "11 2222"}}),
      pola({{"wNaROR", 1000.004f}, {"wDoWyplaty", 1156.72f}})},
     {"kwota na konto bez numeru konta", "31-01-2009", 3000, [](core::Record& p, core::Record&) { p.set(Pay::ROR, 1000.0); },
      pola({{"wNaROR", 0.0f}, {"wDoWyplaty", 2156.72f}})},
