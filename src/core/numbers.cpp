@@ -51,7 +51,6 @@ double RoundSkl(double x) {
     return std::strtod(Format(x, "0.00").c_str(), nullptr);
 }
 
-double RoundPol(double x) { return std::floor((x + 0.0500001) * 10.0) / 10.0; }
 
 namespace {
 
@@ -200,15 +199,6 @@ std::string Format(std::string_view s, std::string_view fmt) {
 }
 
 std::string FixedWidth(double v, std::string_view fmt, std::size_t width) { return PadLeft(Format(v, fmt), width); }
-
-std::string GroszeTekst(double v, std::size_t width) {
-    double g = std::nearbyint(v * 100.0);
-    char buf[64];
-    std::snprintf(buf, sizeof buf, "%.0f", std::fabs(g));
-    std::string s = buf;
-    if (s.size() < width) s.insert(0, width - s.size(), '0');
-    return s;
-}
 
 std::string CyfryTekst(long v, std::size_t width) {
     std::string s = std::to_string(v);

@@ -28,8 +28,6 @@ float RoundZl(float& x) = delete;
 // Contributions: a third decimal that is exactly 5 goes up, the digits past it are dropped
 // first; then two decimals.
 double RoundSkl(double x);
-// Hours to one decimal.
-double RoundPol(double x);
 
 // The shortest text of a number as the files hold it: no leading blank, no trailing zeros,
 // a decimal point, the exponent form ("1.234568E+07") only where the precision demands it.
@@ -49,18 +47,12 @@ std::string Format(std::string_view s, std::string_view fmt);
 
 // Fixed-width number texts: formatted, blanks in front, the last `width` characters kept.
 std::string FixedWidth(double v, std::string_view fmt, std::size_t width);
-inline std::string Kw9(double v) { return FixedWidth(v, "#####0.00", 9); }
 inline std::string Kw8(double v) { return FixedWidth(v, "####0.00", 8); }
-inline std::string Kw7(double v) { return FixedWidth(v, "###0.00", 7); }
 inline std::string Kw10(double v) { return FixedWidth(v, "######0.00", 10); }
 inline std::string Kw11(double v) { return FixedWidth(v, "#######0.00", 11); }
 inline std::string Lp4(double v) { return FixedWidth(v, "####", 4); }
-inline std::string Lp2(double v) { return FixedWidth(v, "##", 2); }
-inline std::string KwZero10(double v) { return FixedWidth(v, "0.00", 10); }
 
-// Zero-padded digit texts of the transfer files: the value in grosze (value * 100 as a whole
-// number) padded with "0" to `width` digits (11 by default); a whole value padded with "0".
-std::string GroszeTekst(double v, std::size_t width = 11);
+// A whole value padded with "0" to `width` digits.
 std::string CyfryTekst(long v, std::size_t width = 2);
 // The last 10 characters of 10 blanks followed by s.
 std::string Pad10(std::string_view s);

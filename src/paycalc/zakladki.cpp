@@ -126,7 +126,6 @@ const char* const kNazwyDodatkow[7] = {"Dodatek 1", "Dodatek 2", "Mieszkaniowy",
 
 bool tylkoPodatek(int tab) { return tab >= 4; }
 std::string nazwaWyniku(const PoleWyniku& w, int tab) { return std::string(w.stem) + kZakladki[tab - 1].litera; }
-const std::string& tekst(const Control& c) { return c.kind == Kind::Label ? c.Caption : c.Text; }
 
 }  // namespace
 

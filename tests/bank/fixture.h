@@ -4,10 +4,8 @@
 #include "core/record.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
-#include "support/scripted.h"
-#include "support/tempdir.h"
+#include "support/demo.h"
+#include "support/ledger.h"
 
 namespace bank_tests {
 
@@ -20,39 +18,19 @@ inline const char* const kBPH = "43106012345678901234567890";
 inline const char* const kBS = "20860200010000000000001234";
 
 inline core::Record karta(const std::string& nazwisko, double naRor, double zasilki, const std::string& konto) {
-    core::Record r(K::schema());
-    for (auto [n, t] : {std::pair{K::Poczatek, "<Poczatek>"}, {K::Imie, "JAN"}, {K::Kod, "32-400"},
-                        {K::Miejscowosc, "Myślenice"}, {K::Ulica, "Rynek"}, {K::NrDomu, "12"}, {K::Lokal, "3"},
-                        {K::Koniec, "<Koniec>"}})
-        r.set(n, t);
-    r.set(K::Nazwisko, nazwisko);
-    r.set(K::NumerKonta, konto);
-    r.set(K::NaROR, naRor);
-    r.set(K::ZasilkiDoROR, zasilki);
-    return r;
+    return testing_support::rekordKarty(nazwisko, "JAN", "", {{K::NaROR, naRor}, {K::ZasilkiDoROR, zasilki}},
+                                        {{K::Kod, "32-400"}, {K::Miejscowosc, "Myślenice"}, {K::Ulica, "Rynek"},
+                                         {K::NrDomu, "12"}, {K::Lokal, "3"}, {K::NumerKonta, konto}});
 }
 
 // A supplementary record at the tax rate 0.17 with the given amounts (field, value).
 inline core::Record dodatek(const std::string& nazwisko, std::vector<std::pair<int, double>> pola) {
-    core::Record r(D::schema());
-    r.set(D::Nazwisko, nazwisko);
-    r.set(D::Imie, "ANNA");
-    r.set(D::NumerKonta, kPKO);
-    r.set(D::StawkaPodatku, 0.17);
-    for (auto& [n, v] : pola) r.set(n, v);
-    return r;
+    pola.insert(pola.begin(), {D::StawkaPodatku, 0.17});
+    return testing_support::rekordDodatkowy(nazwisko, "ANNA", "", pola, {{D::NumerKonta, kPKO}});
 }
 
-struct Dane {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
+struct Dane : testing_support::Demo {
     Dane() {
-        testing_support::copyTree(PENSJA_DEMO, dir.path());
-        s.WorkDir = dir.path();
-        s.takeInstalka(core::Instalka::read(dir.path()));
-        reference::selectPayer(s);
-        reference::loadRates(s);
         s.NazwaListy = "Administracja                    ";
         s.stawki.rentowaPracownik = 0.015;
         s.stawki.emerytalna = 0.0488;

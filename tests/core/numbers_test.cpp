@@ -51,12 +51,9 @@ TEST(Roundings, ArgumentTakesTheResult) {
     EXPECT_DOUBLE_EQ(d, 0.125);
 }
 
-TEST(Roundings, FixAndHours) {
+TEST(Roundings, FixTruncatesTowardsZero) {
     EXPECT_EQ(Fix(2.9), 2);
     EXPECT_EQ(Fix(-2.9), -2);
-    EXPECT_DOUBLE_EQ(RoundPol(7.25), 7.3);
-    EXPECT_DOUBLE_EQ(RoundPol(7.24), 7.2);
-    EXPECT_DOUBLE_EQ(RoundPol(8.0), 8.0);
 }
 
 TEST(NumberText, ShortestForms) {
@@ -114,20 +111,14 @@ TEST(FixedWidth, PadsAndCutsFromTheLeft) {
     struct {
         std::string got, want;
     } cases[] = {
-        {Kw9(5), "     5.00"},
         {Kw8(1234.5), " 1234.50"},
-        {Kw7(12345.67), "2345.67"},  // too wide: the first characters go
+        {Kw8(123456.78), "23456.78"},  // too wide: the first characters go
         {Kw10(-1.5), "     -1.50"},
         {Kw11(123456789.12), "23456789.12"},
         {Lp4(12), "  12"},
-        {Lp2(123), "23"},
         {Lp4(0), "    "},
-        {KwZero10(0), "      0.00"},
         {Pad10("abc"), "       abc"},
         {Pad10("ABCDEFGHIJKL"), "CDEFGHIJKL"},
-        {GroszeTekst(1234.56), "00000123456"},
-        {GroszeTekst(0.3), "00000000030"},
-        {GroszeTekst(12.5, 6), "001250"},
         {CyfryTekst(7), "07"},
         {CyfryTekst(123, 2), "123"},
     };

@@ -3,6 +3,8 @@
 // endings by sex, and the print against its reference file.
 #include <gtest/gtest.h>
 
+#include "support/demo.h"
+
 #include <filesystem>
 #include <fstream>
 
@@ -54,17 +56,8 @@ core::Record dodatkowy(double kwota, double nfz, double podatek) {
     return r;
 }
 
-struct Dane {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
-    Dane() {
-        testing_support::copyTree(PENSJA_DEMO, dir.path());
-        s.WorkDir = dir.path();
-        s.takeInstalka(core::Instalka::read(dir.path()));
-        s.DataListy = "31-12-2020";
-        reference::selectPayer(s);
-        reference::loadRates(s);
+struct Dane : testing_support::Demo {
+    Dane() : Demo("31-12-2020") {
         s.NazwaZbioru = "a";
         s.KluczOsoby = kPani;
         s.NazwiskoOsoby = "NOWAK";

@@ -16,14 +16,15 @@
 #include "gui_support.h"
 #include "reference/podatki.h"
 #include "reference/rates.h"
+#include "support/demo.h"
 #include "support/scripted.h"
 
 using testing_support::ScriptedDialogs;
 
 TEST(PodatkiGui, TypedRateIsSavedForTheYearOfTheList) {
-    gui_support::DemoSession demo;
+    testing_support::Demo demo;
     ScriptedDialogs ui;
-    reference::PodatkiScreen screen(ui, demo.session);
+    reference::PodatkiScreen screen(ui, demo.s);
     gui::ScreenDialog dlg(screen, nullptr);
     dlg.view()->runWork([&] { screen.Load(); });
     auto* stawka = dlg.findChild<QLineEdit*>("txtStawka1");
@@ -36,20 +37,20 @@ TEST(PodatkiGui, TypedRateIsSavedForTheYearOfTheList) {
     dlg.findChild<QPushButton*>("cmdZapisz")->click();
     EXPECT_EQ(dlg.findChild<QLabel*>("Label34")->text(), "Zapisane zmiany do 2021 roku");
     bool found = false;
-    auto r = reference::Dane::readYear(reference::Dane::path(demo.session), "2021", &found);
+    auto r = reference::Dane::readYear(reference::Dane::path(demo.s), "2021", &found);
     ASSERT_TRUE(found);
     EXPECT_EQ(r.s(reference::Dane::Stawka1), "17.5");
     EXPECT_TRUE(ui.boxes.empty());
 }
 
 TEST(MainWindowGui, MenuEntriesFollowTheScreensThatExist) {
-    gui_support::DemoSession demo;
+    testing_support::Demo demo;
     ScriptedDialogs ui;
     ui.type(std::string("demo"));
     core::Screens screens;
     gui::registerAllScreens(screens);
     ui.screens = &screens;
-    app::PlaceScreen place(ui, demo.session);
+    app::PlaceScreen place(ui, demo.s);
     gui::MainWindow win(place);
     win.view()->runWork([&] { place.Load(); });
     win.view()->runWork([&] { place.Activate(); });

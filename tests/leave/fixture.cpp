@@ -10,15 +10,11 @@ namespace Karta = paycalc::Karta;
 
 namespace lfx {
 
-Lista::Lista(const std::string& dataListy) {
-    s.Katalog = dir.path().string();
-    s.SkrotPlatnika = "FIRMA";
-    s.NazwaZbioru = "L1";
-    s.DataListy = dataListy;
+Lista::Lista(const std::string& dataListy) : fx::Lista(dataListy) {
     s.KluczOsoby = kKlucz;
     s.NazwiskoOsoby = "KOWALSKI";
     s.ImieOsoby = "JAN";
-    for (const char* f : {"bazy", "karta", "Urlopy", "godziny", "Godziny", "dodatki", "trzynastki"})
+    for (const char* f : {"karta", "godziny", "Godziny", "dodatki", "trzynastki"})
         std::filesystem::create_directories(dir.path() / "FIRMA" / f);
 }
 

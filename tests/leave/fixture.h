@@ -1,19 +1,15 @@
-// A payer "FIRMA" with list "L1" in a fresh folder, for the screens of leave and working time.
+// The calculation's list "L1" of payer "FIRMA" (rates of 2008, 2009, 2019, 2020; the last in force
+// for 2021), for the screens of leave and working time.
 #pragma once
 #include <string>
 #include <vector>
 
 #include "core/record.h"
-#include "core/session.h"
-#include "support/scripted.h"
-#include "support/tempdir.h"
+#include "paycalc/fixture.h"
 
 namespace lfx {
 
-struct Lista {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
+struct Lista : fx::Lista {
     // The session on the list and on the person KOWALSKI JAN 70051512345.
     explicit Lista(const std::string& dataListy);
     // A pay record of the person (and of NOWAK ANNA 80010112345 after it): the fields given

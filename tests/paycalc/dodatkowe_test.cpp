@@ -6,7 +6,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "demo_lista.h"
+#include "support/demo.h"
 #include "paycalc/dodatkowe.h"
 #include "paycalc/lista.h"
 
@@ -183,7 +183,7 @@ TEST(Dodatki, BadBoxIsRefusedInPolish) {
 
 namespace {
 
-struct Zbior : paycalc_tests::DemoLista {
+struct Zbior : testing_support::DemoLista {
     // Chooses the person of `klucz` as the list screen does.
     void wybierz(const std::string& klucz, const std::string& nazwisko) {
         s.KluczOsoby = klucz;

@@ -4,7 +4,7 @@
 
 #include "core/screens.h"
 #include "core/text.h"
-#include "demo_lista.h"
+#include "support/demo.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
 #include "paycalc/lista.h"
@@ -12,7 +12,7 @@
 
 using namespace paycalc;
 using core::Answer;
-using paycalc_tests::DemoLista;
+using testing_support::DemoLista;
 namespace Osoba = personnel::Osoba;
 namespace Pay = payinputs::Pay;
 
@@ -123,7 +123,7 @@ TEST(Lista, LongSurnameIsCutOnTheLineAndInTheSession) {
     Ekran e;
     auto osoby = e.osoby();
     osoby[0].set(Osoba::Nazwisko, "BRZĘCZYSZCZYKIEWICZ-KONSTANTYNOPOLITAŃCZYK");
-    e.zapiszOsoby(osoby);
+    core::writeAll(e.per(), osoby);
     e.f.Load();
     EXPECT_EQ(core::Len(e.f.lstlista.List[0]), core::Len(e.f.lstlista.List[1]));
     e.wybierz(0);
@@ -136,7 +136,7 @@ TEST(Lista, LongDocumentIsCutOnTheLineButChosenWhole) {
     auto osoby = e.osoby();
     osoby[0].set(Osoba::Obywatelstwo, "UKRAIŃSKIE");
     osoby[0].set(Osoba::Paszport, "FP12345678901");
-    e.zapiszOsoby(osoby);
+    core::writeAll(e.per(), osoby);
     e.f.Load();
     EXPECT_EQ(core::Mid(e.f.lstlista.List[0], 56, 12), "FP123456789 ");
     e.wybierz(0);
@@ -156,7 +156,7 @@ TEST(Lista, MoreThan250PeopleRaiseTheBoundsError) {
         o.set(Osoba::Pesel, std::to_string(70000000000LL + i));
         osoby.push_back(o);
     }
-    e.zapiszOsoby(osoby);
+    core::writeAll(e.per(), osoby);
     e.s.LiczbaOsob = 3;
     e.f.guarded([&] { e.f.Load(); });
     EXPECT_EQ(e.f.lstlista.List.size(), 250u);
@@ -168,7 +168,7 @@ TEST(Lista, MoreThan250PeopleRaiseTheBoundsError) {
     EXPECT_EQ(core::Left(e.ui.boxes[0].text, 26), "Błąd nr.9 w linii frmlista");
     // Exactly 250 is a whole list.
     osoby.pop_back();
-    e.zapiszOsoby(osoby);
+    core::writeAll(e.per(), osoby);
     e.ui.boxes.clear();
     e.f.guarded([&] { e.f.Load(); });
     EXPECT_TRUE(e.ui.boxes.empty());
@@ -348,7 +348,7 @@ TEST(Lista, ClosingAndCalibrationShowTheirStatus) {
 
     auto place = e.place();
     place.pop_back();
-    e.zapiszPlace(place);
+    core::writeAll(e.dta(), place);
     e.kliknij("CmdSol1");
     EXPECT_EQ(e.f.lbStatus.Caption, "Wykonane !");
     EXPECT_EQ(e.f.lbUwagi.Caption, "Zbior płacowy założono na podstawie zbioru aktualnego zbioru personalnego  \n"
@@ -364,17 +364,6 @@ TEST(Lista, FileErrorsGoToTheScreensBox) {
     EXPECT_EQ(e.ui.boxes.back().title, "Błąd");
     EXPECT_EQ(core::Left(e.ui.boxes.back().text, 18), "Błąd nr.53 w linii");
     EXPECT_TRUE(e.f.find("CmdZerowanie")->Enabled);
-}
-
-TEST(Lista, RegisteredAsFrmlista) {
-    DemoLista d;
-    core::Screens screens;
-    registerScreens(screens);
-    d.ui.screens = &screens;
-    EXPECT_TRUE(d.ui.canOpen("frmlista"));
-    ASSERT_TRUE(d.ui.open("frmlista", d.s));
-    EXPECT_EQ(d.ui.formsShown, (std::vector<std::string>{"frmlista"}));
-    EXPECT_EQ(d.s.LiczbaOsob, 7);
 }
 
 TEST(Lista, AdditionsTabKeepsTheSwitchesOfEachKind) {

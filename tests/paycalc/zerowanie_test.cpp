@@ -2,14 +2,14 @@
 // removal of a person.
 #include <gtest/gtest.h>
 
-#include "demo_lista.h"
+#include "support/demo.h"
 #include "fixture.h"
 #include "paycalc/zerowanie.h"
 
 using namespace paycalc;
 using core::Answer;
 using core::Item;
-using paycalc_tests::DemoLista;
+using testing_support::DemoLista;
 using testing_support::readBytes;
 namespace Osoba = personnel::Osoba;
 namespace Pay = payinputs::Pay;
@@ -271,7 +271,7 @@ TEST(Kalibracja, DoublesAndLeftoversGoMissingRecordsAreMade) {
     core::Record obcy = place[1];
     obcy.set(Pay::Pesel, "99999999999");
     std::vector<core::Record> nowe = {place[5], place[0], obcy, place[4], nowak2, place[1], place[2], place[3]};
-    d.zapiszPlace(nowe);
+    core::writeAll(d.dta(), nowe);
     std::vector<std::string> status;
     Postep p;
     p.status = [&](const std::string& t) { status.push_back(t); };
@@ -311,7 +311,7 @@ TEST(Kalibracja, TwiceGivesTheSameFile) {
     auto place = d.place();
     place.erase(place.begin() + 6);
     place.push_back(place[0]);
-    d.zapiszPlace(place);
+    core::writeAll(d.dta(), place);
     cmdSol1(d.s, d.ui);
     const std::string raz = readBytes(d.s.SciezkaBazy);
     d.ui.boxes.clear();
@@ -388,10 +388,10 @@ TEST(Usuwanie, LastPersonLeavesEmptyFilesThatReadAsEmptyLists) {
     DemoLista d;
     auto osoby = d.osoby();
     osoby.resize(1);
-    d.zapiszOsoby(osoby);
+    core::writeAll(d.per(), osoby);
     auto place = d.place();
     place.resize(1);
-    d.zapiszPlace(place);
+    core::writeAll(d.dta(), place);
     d.s.KluczOsoby = "75031412317";
     d.s.NazwiskoOsoby = "NOWAK";
     paycalc::cmdUsu(d.s, d.ui);

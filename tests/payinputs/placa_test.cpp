@@ -3,12 +3,12 @@
 #include "core/text.h"
 #include "payinputs/pay_record.h"
 #include "payinputs/placa.h"
-#include "personnel/demo_list.h"
+#include "support/demo.h"
 #include "reference/payers.h"
 #include "support/scripted.h"
 
 using namespace payinputs;
-using personnel_test::DemoList;
+using DemoList = testing_support::DemoLista;
 using testing_support::readBytes;
 using testing_support::readLines;
 using testing_support::ScriptedDialogs;

@@ -2,6 +2,8 @@
 // the demo data (list "a" in set A, list "p" in set B; list date 31-01-2021).
 #include <gtest/gtest.h>
 
+#include "support/demo.h"
+
 #include "payinputs/pay_record.h"
 #include "payinputs/taryfikator.h"
 #include "reference/payers.h"
@@ -37,17 +39,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Cell{"UnknownAtTheStartIsGradeZero", {"X"}, 4}),
     [](const auto& info) { return std::string(info.param.name); });
 
-struct MassUpdate : testing::Test {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
+struct MassUpdate : testing::Test, testing_support::Demo {
     fs::path a, p;
     void SetUp() override {
-        testing_support::copyTree(PENSJA_DEMO, dir.path());
-        s.WorkDir = dir.path();
-        s.takeInstalka(core::Instalka::read(dir.path()));
-        reference::selectPayer(s);
-        reference::loadRates(s);
         s.Zestaw = "A";
         a = dir.path() / "DEMO" / "Bazy" / "a.dta";
         p = dir.path() / "DEMO" / "Bazy" / "p.dta";

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "core/text.h"
-#include "personnel/demo_list.h"
+#include "support/demo.h"
 #include "personnel/person_record.h"
 #include "personnel/sortuj.h"
 #include "personnel/wybierz_osobe.h"
 #include "support/scripted.h"
 
 using namespace personnel;
-using personnel_test::DemoList;
+using DemoList = testing_support::DemoLista;
 using testing_support::readBytes;
 using testing_support::ScriptedDialogs;
 

@@ -1,9 +1,7 @@
 #include "fixture.h"
 
 #include "paycalc/karta_record.h"
-#include "reference/catalogue.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
+#include "support/ledger.h"
 
 namespace K = paycalc::Karta;
 
@@ -11,16 +9,8 @@ namespace printing_tests {
 
 core::Record osoba(const std::string& nazwisko, const std::string& imie, std::vector<std::pair<int, double>> kwoty,
                    std::vector<std::pair<int, std::string>> teksty) {
-    core::Record r(K::schema());
-    r.set(K::Poczatek, "<Poczatek>");
-    r.set(K::Nazwisko, nazwisko);
-    r.set(K::Imie, imie);
-    r.set(K::DataListy, "31/01/2021");
-    r.set(K::NaLiscie, 1);
-    r.set(K::Koniec, "<Koniec>");
-    for (auto& [n, v] : kwoty) r.set(n, v);
-    for (auto& [n, t] : teksty) r.set(n, t);
-    return r;
+    teksty.insert(teksty.begin(), {K::DataListy, "31/01/2021"});
+    return testing_support::rekordKarty(nazwisko, imie, "", kwoty, teksty);
 }
 
 core::Record kowalski() {
@@ -101,20 +91,7 @@ std::vector<core::Record> demoListaA() {
     };
 }
 
-Dane::Dane(const std::string& dataListy) {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = dataListy;
-    reference::selectPayer(s);
-    reference::loadRates(s);
-    auto lines = reference::Instal::read(s);
-    int i = reference::Instal::findByStem(lines, "a");
-    s.NazwaListy = lines[static_cast<std::size_t>(i)].s(reference::Instal::NazwaListy);
-    s.NazwaZbioru = "a";
-    s.Grupa = "a";
-    s.NumerListy = lines[static_cast<std::size_t>(i)].s(reference::Instal::NumerListy);
-}
+Dane::Dane(const std::string& dataListy) : Demo(dataListy) { lista("a"); }
 
 void Dane::karta(const std::vector<core::Record>& recs) {
     core::writeAll(K::path(s), recs);

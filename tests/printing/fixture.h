@@ -8,8 +8,7 @@
 
 #include "core/record.h"
 #include "core/session.h"
-#include "support/scripted.h"
-#include "support/tempdir.h"
+#include "support/demo.h"
 
 namespace printing_tests {
 
@@ -29,15 +28,11 @@ std::vector<core::Record> proste(int ile);
 // (worked out roughly for the picture of the printed list, not by the pay calculation).
 std::vector<core::Record> demoListaA();
 
-struct Dane {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
+struct Dane : testing_support::Demo {
     // The demo folder on the list date, list "a" (Administracja, nr 1) open.
     explicit Dane(const std::string& dataListy = "31-01-2021");
     // Writes the month's ledger of the open list and sets the list's person count.
     void karta(const std::vector<core::Record>& recs);
-    std::filesystem::path payer() const { return dir.path() / "DEMO"; }
 };
 
 }  // namespace printing_tests

@@ -38,6 +38,21 @@ std::string paski(const std::vector<core::Record>& karta) {
     return d.ui.paper.text();
 }
 
+// A person whose every amount in the ledger holds the number of its field (field 6 is 6.00,
+// field 18 is 18.00 ...), with sick days of code 331 in line 1 and of code 313 in line 2: a cell
+// or a total taken from a wrong field shows at once.
+core::Record poNumerach() {
+    core::Record r = printing_tests::osoba(
+        "Pola", "Numery", {}, {{K::KodPrzerwy1, "331"}, {K::KodPrzerwy2, "313"}, {K::Etat, "  1  1"}, {K::Grupa, "a"}});
+    for (int n = K::Zasadnicza; n < K::Koniec; ++n) {
+        const auto t = K::schema().fields[static_cast<std::size_t>(n - 1)].type;
+        if (t != core::FieldType::String && t != core::FieldType::Line && t != core::FieldType::Blank &&
+            n != K::KodPrzerwy1 && n != K::KodPrzerwy2)
+            r.set(n, static_cast<double>(n));
+    }
+    return r;
+}
+
 std::map<std::string, std::function<std::string()>> przypadki() {
     using namespace printing_tests;
     return {
@@ -63,6 +78,16 @@ std::map<std::string, std::function<std::string()>> przypadki() {
              d.karta({kowalski(), nowak()});
              printing::cmdDrukListy(d.s, d.ui);
              std::string out;
+             for (const auto& l : testing_support::readLines(printing::Sumy::path(d.s))) out += l + "\n";
+             return out;
+         }},
+        // The list and its sums of one person whose every ledger amount is its field's number.
+        {"lista_pola.txt",
+         [] {
+             Dane d;
+             d.karta({poNumerach()});
+             printing::cmdDrukListy(d.s, d.ui);
+             std::string out = d.ui.paper.text() + "---- Sa2101.sum\n";
              for (const auto& l : testing_support::readLines(printing::Sumy::path(d.s))) out += l + "\n";
              return out;
          }},

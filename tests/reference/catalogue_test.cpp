@@ -3,7 +3,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "core/screens.h"
-#include "demo_fixture.h"
+#include "support/demo.h"
 #include "reference/catalogue.h"
 #include "reference/wybor.h"
 #include "support/scripted.h"
@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 using core::Answer;
 using reference::displayLine;
 using reference::parseDisplayLine;
-using reference_tests::Demo;
+using testing_support::Demo;
 using testing_support::readBytes;
 using testing_support::ScriptedDialogs;
 using testing_support::writeLines;

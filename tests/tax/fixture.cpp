@@ -1,23 +1,16 @@
 #include "fixture.h"
 
 #include "paycalc/karta_record.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
+#include "support/ledger.h"
 
 namespace K = paycalc::Karta;
 namespace D = paycalc::Dodatkowy;
 
 namespace tax_tests {
 
-Dane::Dane() {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
+Dane::Dane() : Demo("31-01-2021") {
     // Without the demo's January overtime and additions: each test writes the files it sums.
-    for (const char* f : {"Godziny/aGod2101.dta", "Dodatki/aDod2101.dta"}) std::filesystem::remove(dir.path() / "DEMO" / f);
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = "31-01-2021";
-    reference::selectPayer(s);
-    reference::loadRates(s);
+    for (const char* f : {"Godziny/aGod2101.dta", "Dodatki/aDod2101.dta"}) std::filesystem::remove(payer() / f);
     s.NazwaZbioru = "a";
     s.KluczOsoby = kNowak;
     s.NazwiskoOsoby = "NOWAK";
@@ -35,29 +28,13 @@ void Dane::dodatkowy(D::Rodzaj r, const std::string& lista, const std::string& s
 
 core::Record karta(const std::string& nazwisko, const std::string& imie, const std::string& klucz,
                    std::vector<std::pair<int, double>> kwoty, const std::string& kod) {
-    core::Record r(K::schema());
-    r.set(K::Poczatek, "<Poczatek>");
-    r.set(K::Nazwisko, nazwisko);
-    r.set(K::Imie, imie);
-    r.set(K::Klucz, klucz);
-    r.set(K::KodUbezpieczenia, kod);
-    r.set(K::Obywatelstwo, "POLSKIE");
-    r.set(K::NaLiscie, 1);
-    r.set(K::Koniec, "<Koniec>");
-    for (auto& [n, v] : kwoty) r.set(n, v);
-    return r;
+    return testing_support::rekordKarty(nazwisko, imie, klucz, kwoty,
+                                        {{K::KodUbezpieczenia, kod}, {K::Obywatelstwo, "POLSKIE"}});
 }
 
 core::Record dodatkowy(const std::string& nazwisko, const std::string& imie, const std::string& klucz,
                        std::vector<std::pair<int, double>> kwoty, std::vector<std::pair<int, std::string>> teksty) {
-    core::Record r(D::schema());
-    r.set(D::Nazwisko, nazwisko);
-    r.set(D::Imie, imie);
-    r.set(D::Klucz, klucz);
-    r.set(D::KodUbezpieczenia, "011000");
-    for (auto& [n, v] : kwoty) r.set(n, v);
-    for (auto& [n, t] : teksty) r.set(n, t);
-    return r;
+    return testing_support::rekordDodatkowy(nazwisko, imie, klucz, kwoty, teksty);
 }
 
 void miesiacPit4(Dane& d) {

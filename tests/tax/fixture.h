@@ -9,19 +9,14 @@
 #include "core/record.h"
 #include "core/session.h"
 #include "paycalc/dodatkowe_record.h"
-#include "support/scripted.h"
-#include "support/tempdir.h"
+#include "support/demo.h"
 
 namespace tax_tests {
 
 inline constexpr const char* kNowak = "75031412317";
 
-struct Dane {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
+struct Dane : testing_support::Demo {
     Dane();
-    std::filesystem::path payer() const { return dir.path() / "DEMO"; }
     // karta\<lista><RRmm>.dta from records given as (field, value) pairs.
     void karta(const std::string& lista, const std::string& RRmm, const std::vector<core::Record>& recs);
     void dodatkowy(paycalc::Dodatkowy::Rodzaj r, const std::string& lista, const std::string& stamp,

@@ -3,6 +3,8 @@
 // settlement, deleting.
 #include <gtest/gtest.h>
 
+#include "support/demo.h"
+
 #include "core/paths.h"
 #include "reference/payers.h"
 #include "support/scripted.h"
@@ -15,16 +17,9 @@ using testing_support::ScriptedDialogs;
 
 namespace {
 
-struct Trips : testing::Test {
-    testing_support::TempDir dir;
-    core::Session s;
-    ScriptedDialogs ui;
+struct Trips : testing::Test, testing_support::Demo {
     std::unique_ptr<trips::DelegacjeScreen> e;
     void SetUp() override {
-        testing_support::copyTree(PENSJA_DEMO, dir.path());
-        s.WorkDir = dir.path();
-        s.takeInstalka(core::Instalka::read(dir.path()));
-        reference::selectPayer(s);
         e = std::make_unique<trips::DelegacjeScreen>(ui, s);
         e->Load();
     }

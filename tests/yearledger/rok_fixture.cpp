@@ -5,8 +5,7 @@
 #include "core/paths.h"
 #include "paycalc/dodatkowe_record.h"
 #include "paycalc/karta_record.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
+#include "support/ledger.h"
 
 namespace K = paycalc::Karta;
 namespace D = paycalc::Dodatkowy;
@@ -15,18 +14,8 @@ namespace yearledger_tests {
 
 core::Record karta(std::vector<std::pair<int, double>> kwoty, std::vector<std::pair<int, std::string>> teksty,
                    const std::string& klucz) {
-    core::Record r(K::schema());
-    r.set(K::Poczatek, "<Poczatek>");
-    r.set(K::Nazwisko, "KOWALSKI");
-    r.set(K::Imie, "JAN");
-    r.set(K::Klucz, klucz);
-    r.set(K::KodUbezpieczenia, "011000");
-    r.set(K::Etat, "  1  1");
-    r.set(K::NaLiscie, 1);
-    r.set(K::Koniec, "<Koniec>");
-    for (auto& [n, v] : kwoty) r.set(n, v);
-    for (auto& [n, t] : teksty) r.set(n, t);
-    return r;
+    teksty.insert(teksty.begin(), {{K::KodUbezpieczenia, "011000"}, {K::Etat, "  1  1"}});
+    return testing_support::rekordKarty("KOWALSKI", "JAN", klucz, kwoty, teksty);
 }
 
 core::Record styczen() {
@@ -56,27 +45,14 @@ core::Record marzec() {
 }
 
 core::Record dodatkowy(std::vector<std::pair<int, double>> pola) {
-    core::Record r(D::schema());
-    r.set(D::Nazwisko, "KOWALSKI");
-    r.set(D::Imie, "JAN");
-    r.set(D::Klucz, kKlucz);
-    r.set(D::KodUbezpieczenia, "011000");
-    r.set(D::DataListy, "31-01-2020");
-    for (auto& [n, v] : pola) r.set(n, v);
-    return r;
+    return testing_support::rekordDodatkowy("KOWALSKI", "JAN", kKlucz, pola, {{D::DataListy, "31-01-2020"}});
 }
 
-Rok::Rok() {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
+Rok::Rok() : Demo("31-12-2020") {
     // The year is made here alone: the demo year's ledgers and supplementary files go.
     for (const char* f : {"Karta", "Godziny", "Dodatki", "Trzynastki", "Jubileu", "Urlopy"})
-        for (const auto& e : std::filesystem::directory_iterator(dir.path() / "DEMO" / f))
+        for (const auto& e : std::filesystem::directory_iterator(payer() / f))
             if (e.path().extension() == ".dta") std::filesystem::remove(e.path());
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = "31-12-2020";
-    reference::selectPayer(s);
-    reference::loadRates(s);
     s.NazwaZbioru = "a";
     s.Grupa = "a";
     s.KluczOsoby = kKlucz;

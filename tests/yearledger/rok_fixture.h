@@ -8,8 +8,7 @@
 
 #include "core/record.h"
 #include "core/session.h"
-#include "support/scripted.h"
-#include "support/tempdir.h"
+#include "support/demo.h"
 
 namespace yearledger_tests {
 
@@ -24,10 +23,7 @@ core::Record marzec();
 // A supplementary record of the person with the given fields (numbers bare).
 core::Record dodatkowy(std::vector<std::pair<int, double>> pola);
 
-struct Rok {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
+struct Rok : testing_support::Demo {
     Rok();
     // Ledgers of January (the person and another) and March; overtime and additions in
     // January, a holiday benefit in June; the year's thirteenth pay when `trzynastka`.

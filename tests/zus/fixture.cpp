@@ -2,8 +2,7 @@
 
 #include "paycalc/karta_record.h"
 #include "reference/catalogue.h"
-#include "reference/payers.h"
-#include "reference/rates.h"
+#include "support/ledger.h"
 #include "zus/rcp_record.h"
 
 namespace K = paycalc::Karta;
@@ -12,13 +11,7 @@ namespace R = zus::Rcp;
 
 namespace zfx {
 
-Platnik::Platnik() {
-    testing_support::copyTree(PENSJA_DEMO, dir.path());
-    s.WorkDir = dir.path();
-    s.takeInstalka(core::Instalka::read(dir.path()));
-    s.DataListy = "31-01-2021";
-    reference::selectPayer(s);
-    reference::loadRates(s);
+Platnik::Platnik() : Demo("31-01-2021") {
     s.NazwaZbioru = "a";
     s.Grupa = "a";
 }
@@ -42,22 +35,10 @@ std::vector<core::Record> Platnik::rcp() const { return R::readAll(R::path(s)); 
 core::Record karta(const std::string& nazwisko, const std::string& imie, const std::string& pesel,
                    const std::string& kod, double podstawa, std::vector<std::pair<int, double>> kwoty,
                    std::vector<std::pair<int, std::string>> teksty) {
-    core::Record r(K::schema());
-    r.set(K::Poczatek, "<Poczatek>");
-    r.set(K::Nazwisko, nazwisko);
-    r.set(K::Imie, imie);
-    r.set(K::Klucz, pesel);
-    r.set(K::KodUbezpieczenia, kod);
-    r.set(K::Obywatelstwo, "POLSKIE");
-    r.set(K::Etat, "  1  1");
-    r.set(K::PodstawaZUS, podstawa);
-    r.set(K::PodstawaZdrowotna, podstawa);
-    r.set(K::NaLiscie, 1);
-    for (int f = K::CheckEmerytalna; f <= K::CheckZdrowotna; ++f) r.set(f, 1);
-    r.set(K::Koniec, "<Koniec>");
-    for (auto& [n, v] : kwoty) r.set(n, v);
-    for (auto& [n, t] : teksty) r.set(n, t);
-    return r;
+    kwoty.insert(kwoty.begin(), {{K::PodstawaZUS, podstawa}, {K::PodstawaZdrowotna, podstawa}});
+    for (int f = K::CheckEmerytalna; f <= K::CheckZdrowotna; ++f) kwoty.insert(kwoty.begin(), {f, 1});
+    teksty.insert(teksty.begin(), {{K::KodUbezpieczenia, kod}, {K::Obywatelstwo, "POLSKIE"}, {K::Etat, "  1  1"}});
+    return testing_support::rekordKarty(nazwisko, imie, pesel, kwoty, teksty);
 }
 
 core::Record rcp(const std::string& nazwisko, const std::string& imie, const std::string& pesel,

@@ -7,16 +7,11 @@
 
 #include "core/record.h"
 #include "core/session.h"
-#include "support/scripted.h"
-#include "support/tempdir.h"
+#include "support/demo.h"
 
 namespace zfx {
 
-struct Platnik {
-    testing_support::TempDir dir;
-    core::Session s;
-    testing_support::ScriptedDialogs ui;
-
+struct Platnik : testing_support::Demo {
     Platnik();
     // instal.dat: rows of (stem, group, set).
     void katalog(const std::vector<std::vector<std::string>>& listy);
