@@ -69,7 +69,8 @@ const core::FieldBox kPola[] = {
 
 }  // namespace
 
-Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session) : Form(ui, "frmOsoba1", "Pracownik"), s(session), boxes(*this, kPola) {
+Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session)
+    : Form(ui, "frmOsoba1", "Pracownik"), s(session), boxes(*this, kPola) {
     fraDane.at(0, 0);
     fraAdres.at(0, 1);
     fraZatrudnienie.at(0, 2);
@@ -274,7 +275,8 @@ bool Osoba1Screen::sprawdz() {
         SetFocus(c);
         return false;
     };
-    if (pustyLubNowe(txt(Osoba::Nazwisko).Text)) return blad("Brak wpisu nazwiska", "Wpisz nazwisko !", txt(Osoba::Nazwisko));
+    if (pustyLubNowe(txt(Osoba::Nazwisko).Text))
+        return blad("Brak wpisu nazwiska", "Wpisz nazwisko !", txt(Osoba::Nazwisko));
     if (pustyLubNowe(txt(Osoba::Imie).Text)) return blad("Brak wpisu imienia", "Wpisz Imie !", txt(Osoba::Imie));
     const std::string pesel = txt(Osoba::Pesel).Text;
     const bool brakPesel = pesel == "00000000000" || pesel == " " || pesel.empty();
@@ -286,7 +288,8 @@ bool Osoba1Screen::sprawdz() {
         if (core::Trim(txt(Osoba::Obywatelstwo).Text).empty())
             return blad("Jeśli Obcokrajowiec - wpisz Obywatelstwo ", "Wpisz Obywatelstwo!", txt(Osoba::Obywatelstwo));
     } else {
-        if (pesel == "00000000000" || pesel == "Nowe") return blad("Brak wpisu nr Pesel", "Wpisz Pesel !", txt(Osoba::Pesel));
+        if (pesel == "00000000000" || pesel == "Nowe")
+            return blad("Brak wpisu nr Pesel", "Wpisz Pesel !", txt(Osoba::Pesel));
         if (core::Len(pesel) != 11) return blad("Zły nr Pesel", "Wpisz poprawnie Pesel !", txt(Osoba::Pesel));
     }
     const std::string kod = core::Trim(txt(Osoba::KodUbezpieczenia).Text);
