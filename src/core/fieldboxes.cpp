@@ -11,7 +11,7 @@ FieldBoxes::FieldBoxes(Form& form, std::span<const FieldBox> defs) : defs_(defs)
         int& free = next[d.frame];
         int row = d.row >= 0 ? d.row : free;
         free = std::max(free, row + 1);
-        c->in(d.frame).at(row, d.slot).label(d.label).width(d.width);
+        c->in(d.frame).at(row, d.slot, d.span).label(d.label).width(d.width);
         c->Field = d.field;
         boxes_.push_back(std::move(c));
     }

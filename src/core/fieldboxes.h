@@ -1,5 +1,5 @@
 // Text boxes (or labels) bound to the fields of a record: a screen lists them in a table
-// (field, control name, label, frame, row, width, slot, kind) and gets the controls made,
+// (field, control name, label, frame, row, width, slot, kind, span) and gets the controls made,
 // placed, looked up by field and filled from a record.
 #pragma once
 #include <memory>
@@ -20,6 +20,7 @@ struct FieldBox {
     int width = 10;       // characters
     int slot = 0;         // the slot of the row (the column of label and box)
     Kind kind = Kind::TextBox;  // a Label shows its field in its caption
+    int span = 1;         // the slots of the row the box takes
 };
 
 class FieldBoxes {

@@ -25,63 +25,71 @@ bool pustyLubNowe(const std::string& t) {
     return x.empty() || x == "Nowe";
 }
 
+// The boxes of the record in the order of the screen's tab key.
+const core::FieldBox kPola[] = {
+    {Osoba::Nazwisko, "txtNazwisko", "Nazwisko", "fraDane", 0, 25},
+    {Osoba::Imie, "txtImie", "Imię", "fraDane", 1, 20},
+    {Osoba::DrugieImie, "txtDrugieImie", "Drugie imię", "fraDane", 2, 20},
+    {Osoba::Pesel, "txtPesel", "PESEL", "fraDane", 3, 11},
+    {Osoba::DataUrodzenia, "txtDataUrodzenia", "Data urodzenia", "fraDane", 4, 10},
+    {Osoba::MiejsceUrodzenia, "txtMiejsceUrodzenia", "Miejsce urodzenia", "fraDane", 5, 20},
+    {Osoba::ImieOjca, "txtImieOjca", "Imię ojca", "fraDane", 6, 20},
+    {Osoba::ImieMatki, "txtImieMatki", "Imię matki", "fraDane", 7, 20},
+    {Osoba::Obywatelstwo, "txtObywatelstwo", "Obywat", "fraDane", 8, 20},
+    {Osoba::Paszport, "txtPaszport", "Paszport", "fraDane", 9, 14},
+    {Osoba::DowodOsobisty, "txtDowodOsobisty", "Dowód osobisty", "fraDane", 10, 12},
+    {Osoba::Nip, "txtNip", "NIP", "fraDane", 11, 13},
+    {Osoba::KodWyksztalcenia, "txtKodWyksztalcenia", "Kod wykształ", "fraDane", 12, 6},
+    {Osoba::Telefon, "txtTelefon", "Tel.stacjon", "fraAdres", 10, 14},
+    {Osoba::Komorka, "txtKomorka", "Komórka", "fraAdres", 11, 14},
+    {Osoba::Mail, "Txtmail", "Adres mail", "fraAdres", 12, 22},
+    {Osoba::Kod, "txtKod", "Kod pocztowy", "fraAdres", 0, 6},
+    {Osoba::Miejscowosc, "txtMiejscowosc", "Miejscowość", "fraAdres", 1, 22},
+    {Osoba::Poczta, "txtPoczta", "Poczta zameldowania", "fraAdres", 2, 22},
+    {Osoba::Ulica, "TxtUlica", "Ulica", "fraAdres", 3, 22},
+    {Osoba::NrDomu, "txtNrDomu", "Nr domu", "fraAdres", 4, 6},
+    {Osoba::Lokal, "txtLokal", "Lokal", "fraAdres", 5, 6},
+    {Osoba::Gmina, "txtGmina", "Gmina", "fraAdres", 6, 22},
+    {Osoba::Powiat, "txtPowiat", "Powiat", "fraAdres", 7, 22},
+    {Osoba::Wojewodztwo, "txtWojewodztwo", "Województwo", "fraAdres", 8, 22},
+    {Osoba::SkrPocztowa, "txtSkrPocztowa", "Skr.poczt.", "fraAdres", 9, 8},
+    {Osoba::UrzadSkarbowy, "txtUrzadSkarbowy", "Urząd skarbowy", "fraZatrudnienie", 12, 26, 0, core::Kind::TextBox, 2},
+    {Osoba::OddzialZUS, "txtOddzialZUS", "Oddział ZUS", "fraZatrudnienie", 13, 26, 0, core::Kind::TextBox, 2},
+    // Filled from the record's number (value 40), saved into value 37.
+    {Osoba::NumerIP, "txtNumerIP", "Nr Id", "fraZatrudnienie", 0, 5},
+    {Osoba::KodUbezpieczenia, "txtKodUbezpieczenia", "Kod ubezpieczenia", "fraZatrudnienie", 1, 6},
+    {Osoba::NrUbezpieczenia, "txtNrUbezpieczenia", "Nr.Ubezpieczenia", "fraZatrudnienie", 2, 14},
+    {Osoba::DataZatrudnienia, "TxtDataZatrudnienia", "Data zatrudnienia", "fraZatrudnienie", 3, 10},
+    {Osoba::Grupa, "txtGrupa", "Grupa", "fraZatrudnienie", 4, 2},
+    {Osoba::Etat, "txtEtat", "Etat - licznik", "fraZatrudnienie", 5, 3},
+    {Osoba::Etat, "txtEtat2", "Etat - mianownik", "fraZatrudnienie", 6, 3},
+    {Osoba::WskaznikFP, "txtWskaznikFP", "Fundusz Pracy", "fraZatrudnienie", 8, 2},
+    {Osoba::FGSP, "txtFGSP", "FGŚP", "fraZatrudnienie", 9, 2},
+};
+
 }  // namespace
 
-Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session) : Form(ui, "frmOsoba1", "Pracownik"), s(session) {
+Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session)
+    : Form(ui, "frmOsoba1", "Pracownik"), s(session), boxes(*this, kPola) {
     fraDane.at(0, 0);
     fraAdres.at(0, 1);
     fraZatrudnienie.at(0, 2);
 
-    int r = 0;
-    txtNazwisko.in("fraDane").at(r++, 0).label("Nazwisko").width(25);
-    txtImie.in("fraDane").at(r++, 0).label("Imię").width(20);
-    txtDrugieImie.in("fraDane").at(r++, 0).label("Drugie imię").width(20);
-    txtPesel.in("fraDane").at(r++, 0).label("PESEL").width(11).tip("Zmiana PESEL spowoduje założenie nowej  kartoteki płacowej");
-    txtDataUrodzenia.in("fraDane").at(r++, 0).label("Data urodzenia").width(10).tip(
-        "dd-mm-rrrr; kliknięcie wpisuje datę z numeru PESEL");
-    txtMiejsceUrodzenia.in("fraDane").at(r++, 0).label("Miejsce urodzenia").width(20);
-    txtImieOjca.in("fraDane").at(r++, 0).label("Imię ojca").width(20);
-    txtImieMatki.in("fraDane").at(r++, 0).label("Imię matki").width(20);
-    txtObywatelstwo.in("fraDane").at(r++, 0).label("Obywat").width(20).tip(
-        "POLSKIE dla obywatela polskiego; cudzoziemiec: obywatelstwo i nr paszportu");
-    txtPaszport.in("fraDane").at(r++, 0).label("Paszport").width(14);
-    txtDowodOsobisty.in("fraDane").at(r++, 0).label("Dowód osobisty").width(12);
-    txtNip.in("fraDane").at(r++, 0).label("NIP").width(13);
-    txtKodWyksztalcenia.in("fraDane").at(r++, 0).label("Kod wykształ").width(6);
-
-    r = 0;
-    txtKod.in("fraAdres").at(r++, 0).label("Kod pocztowy").width(6).tip("Znany kod wypełnia miejscowość, pocztę, gminę, powiat i województwo");
-    txtMiejscowosc.in("fraAdres").at(r++, 0).label("Miejscowość").width(22);
-    txtPoczta.in("fraAdres").at(r++, 0).label("Poczta zameldowania").width(22);
-    TxtUlica.in("fraAdres").at(r++, 0).label("Ulica").width(22);
-    txtNrDomu.in("fraAdres").at(r++, 0).label("Nr domu").width(6);
-    txtLokal.in("fraAdres").at(r++, 0).label("Lokal").width(6);
-    txtGmina.in("fraAdres").at(r++, 0).label("Gmina").width(22);
-    txtPowiat.in("fraAdres").at(r++, 0).label("Powiat").width(22);
-    txtWojewodztwo.in("fraAdres").at(r++, 0).label("Województwo").width(22);
-    txtSkrPocztowa.in("fraAdres").at(r++, 0).label("Skr.poczt.").width(8);
-    txtTelefon.in("fraAdres").at(r++, 0).label("Tel.stacjon").width(14);
-    txtKomorka.in("fraAdres").at(r++, 0).label("Komórka").width(14);
-    Txtmail.in("fraAdres").at(r++, 0).label("Adres mail").width(22);
-
-    r = 0;
-    txtNumerIP.in("fraZatrudnienie").at(r++, 0).label("Nr Id").width(5).tip("Zaleca sie Nie zmieniać ");
-    txtKodUbezpieczenia.in("fraZatrudnienie").at(r++, 0).label("Kod ubezpieczenia").width(6);
-    txtNrUbezpieczenia.in("fraZatrudnienie").at(r++, 0).label("Nr.Ubezpieczenia").width(14);
-    TxtDataZatrudnienia.in("fraZatrudnienie").at(r++, 0).label("Data zatrudnienia").width(10).tip("dd-mm-rrrr");
-    txtGrupa.in("fraZatrudnienie").at(r++, 0).label("Grupa").width(2).tip(
-        "Nauczyciele =n , administracja =a , produkcja =p , umowy zlecenia =u");
-    txtEtat.in("fraZatrudnienie").at(r++, 0).label("Etat - licznik").width(3).tip("Licznik wymiaru etatu, np. 1 dla pół etatu (1/2)");
-    txtEtat2.in("fraZatrudnienie").at(r++, 0).label("Etat - mianownik").width(3).tip("Mianownik wymiaru etatu, np. 2 dla pół etatu (1/2)");
-    lbUlamekEtatu.in("fraZatrudnienie").at(r++, 0, 2).label("Wymiar etatu");
-    txtWskaznikFP.in("fraZatrudnienie").at(r++, 0).label("Fundusz Pracy").width(2).tip(
-        "Automat oznacza wyłaczenie FP przy Podstawie mniejszej jak Najniższe wynagrodzenie");
-    txtFGSP.in("fraZatrudnienie").at(r++, 0).label("FGŚP").width(2).tip("puste = automat, 1 = bez FGŚP, 2 = z FGŚP");
-    lbFunduszPracy.in("fraZatrudnienie").at(r++, 0, 2);
-    lbWiek.in("fraZatrudnienie").at(r++, 0, 2);
-    txtUrzadSkarbowy.in("fraZatrudnienie").at(r++, 0, 2).label("Urząd skarbowy").width(26);
-    txtOddzialZUS.in("fraZatrudnienie").at(r++, 0, 2).label("Oddział ZUS").width(26);
-    fraStatus.in("fraZatrudnienie").at(r++, 0, 2);
+    txt(Osoba::Pesel).tip("Zmiana PESEL spowoduje założenie nowej  kartoteki płacowej");
+    txt(Osoba::DataUrodzenia).tip("dd-mm-rrrr; kliknięcie wpisuje datę z numeru PESEL");
+    txt(Osoba::Obywatelstwo).tip("POLSKIE dla obywatela polskiego; cudzoziemiec: obywatelstwo i nr paszportu");
+    txt(Osoba::Kod).tip("Znany kod wypełnia miejscowość, pocztę, gminę, powiat i województwo");
+    txt(Osoba::NumerIP).tip("Zaleca sie Nie zmieniać ");
+    txt(Osoba::DataZatrudnienia).tip("dd-mm-rrrr");
+    txt(Osoba::Grupa).tip("Nauczyciele =n , administracja =a , produkcja =p , umowy zlecenia =u");
+    txtEtat.tip("Licznik wymiaru etatu, np. 1 dla pół etatu (1/2)");
+    txtEtat2.tip("Mianownik wymiaru etatu, np. 2 dla pół etatu (1/2)");
+    txt(Osoba::WskaznikFP).tip("Automat oznacza wyłaczenie FP przy Podstawie mniejszej jak Najniższe wynagrodzenie");
+    txt(Osoba::FGSP).tip("puste = automat, 1 = bez FGŚP, 2 = z FGŚP");
+    lbUlamekEtatu.in("fraZatrudnienie").at(7, 0, 2).label("Wymiar etatu");
+    lbFunduszPracy.in("fraZatrudnienie").at(10, 0, 2);
+    lbWiek.in("fraZatrudnienie").at(11, 0, 2);
+    fraStatus.in("fraZatrudnienie").at(14, 0, 2);
     Option1.in("fraStatus").at(0, 0);
     Option2.in("fraStatus").at(0, 1);
 
@@ -90,11 +98,11 @@ Osoba1Screen::Osoba1Screen(core::Dialogs& ui, core::Session& session) : Form(ui,
     CmdKadry.at(1, 1);
     cmdKoniecP.at(1, 2);
 
-    txtNazwisko.KeyEnter = [this] { SetFocus(txtImie); };
-    txtImie.KeyEnter = [this] { SetFocus(txtPesel); };
+    txt(Osoba::Nazwisko).KeyEnter = [this] { SetFocus(txt(Osoba::Imie)); };
+    txt(Osoba::Imie).KeyEnter = [this] { SetFocus(txt(Osoba::Pesel)); };
     txtEtat.KeyEnter = [this] { SetFocus(txtEtat2); };
-    txtKod.Change = [this] { txtKod_Change(); };
-    txtDataUrodzenia.Click = [this] { txtDataUrodzenia_Click(); };
+    txt(Osoba::Kod).Change = [this] { txtKod_Change(); };
+    txt(Osoba::DataUrodzenia).Click = [this] { txtDataUrodzenia_Click(); };
     txtEtat.Change = [this] { odswiezEtat(); };
     txtEtat2.Change = [this] { odswiezEtat(); };
     cmdZapiszZmiany.Click = [this] { cmdZapiszZmiany_Click(); };
@@ -151,43 +159,12 @@ void Osoba1Screen::wyczysc() {
 }
 
 void Osoba1Screen::wypelnij(const core::Record& o) {
-    txtNazwisko.Text = core::UCase(o.s(Osoba::Nazwisko));
-    txtImie.Text = core::UCase(o.s(Osoba::Imie));
-    txtDrugieImie.Text = o.s(Osoba::DrugieImie);
-    txtPesel.Text = o.s(Osoba::Pesel);
-    txtNip.Text = o.s(Osoba::Nip);
-    txtDowodOsobisty.Text = o.s(Osoba::DowodOsobisty);
-    txtKodUbezpieczenia.Text = o.s(Osoba::KodUbezpieczenia);
-    txtKodWyksztalcenia.Text = o.s(Osoba::KodWyksztalcenia);
-    txtDataUrodzenia.Text = o.s(Osoba::DataUrodzenia);
-    txtMiejsceUrodzenia.Text = o.s(Osoba::MiejsceUrodzenia);
-    txtImieOjca.Text = o.s(Osoba::ImieOjca);
-    txtImieMatki.Text = o.s(Osoba::ImieMatki);
-    txtKod.Text = o.s(Osoba::Kod);
-    txtMiejscowosc.Text = o.s(Osoba::Miejscowosc);
-    TxtUlica.Text = o.s(Osoba::Ulica);
-    txtNrDomu.Text = o.s(Osoba::NrDomu);
-    txtLokal.Text = o.s(Osoba::Lokal);
-    txtGmina.Text = o.s(Osoba::Gmina);
-    txtPowiat.Text = o.s(Osoba::Powiat);
-    txtWojewodztwo.Text = o.s(Osoba::Wojewodztwo);
+    boxes.fill(o);
+    for (int pole : {Osoba::Nazwisko, Osoba::Imie, Osoba::Paszport}) txt(pole).Text = core::UCase(txt(pole).Text);
     txtEtat.Text = core::Trim(core::Left(o.s(Osoba::Etat), 3));
     txtEtat2.Text = core::Trim(core::Right(o.s(Osoba::Etat), 3));
-    txtGrupa.Text = o.s(Osoba::Grupa);
-    txtTelefon.Text = o.s(Osoba::Telefon);
-    txtUrzadSkarbowy.Text = o.s(Osoba::UrzadSkarbowy);
-    txtOddzialZUS.Text = o.s(Osoba::OddzialZUS);
-    txtPoczta.Text = o.s(Osoba::Poczta);
-    txtPaszport.Text = core::UCase(o.s(Osoba::Paszport));
-    Txtmail.Text = o.s(Osoba::Mail);
-    txtKomorka.Text = o.s(Osoba::Komorka);
-    txtSkrPocztowa.Text = o.s(Osoba::SkrPocztowa);
-    txtNrUbezpieczenia.Text = o.s(Osoba::NrUbezpieczenia);
-    txtObywatelstwo.Text = o.s(Osoba::Obywatelstwo);
-    TxtDataZatrudnienia.Text = dataZatrudnienia(o.s(Osoba::DataZatrudnienia));
-    txtWskaznikFP.Text = o.s(Osoba::WskaznikFP);
-    txtNumerIP.Text = o.s(Osoba::Numer);
-    txtFGSP.Text = o.s(Osoba::FGSP);
+    txt(Osoba::DataZatrudnienia).Text = dataZatrudnienia(o.s(Osoba::DataZatrudnienia));
+    txt(Osoba::NumerIP).Text = o.s(Osoba::Numer);
     setOption(o.i(Osoba::Status) == 1 ? Option1 : Option2);
     s.Osoba.Obywatelstwo = obywatelstwo(o.s(Osoba::Obywatelstwo));
     odswiezEtat();
@@ -204,11 +181,11 @@ void Osoba1Screen::trybNowej(int numer) {
     s.KluczOsoby = "00000000000";
     s.KodUbezpieczeniaOsoby = "011000";
     wyczysc();
-    txtNazwisko.Text = s.NazwiskoOsoby;
-    txtImie.Text = s.ImieOsoby;
-    txtPesel.Text = s.KluczOsoby;
-    txtKodUbezpieczenia.Text = s.KodUbezpieczeniaOsoby;
-    txtNumerIP.Text = std::to_string(numer);
+    txt(Osoba::Nazwisko).Text = s.NazwiskoOsoby;
+    txt(Osoba::Imie).Text = s.ImieOsoby;
+    txt(Osoba::Pesel).Text = s.KluczOsoby;
+    txt(Osoba::KodUbezpieczenia).Text = s.KodUbezpieczeniaOsoby;
+    txt(Osoba::NumerIP).Text = std::to_string(numer);
     setOption(Option1);
     cmdZapiszZmiany.Visible = false;
     cmdZapiszNowaOsobe.Visible = true;
@@ -276,18 +253,20 @@ void Osoba1Screen::Load() {
 }
 
 void Osoba1Screen::txtKod_Change() {
-    txtKod.Text = core::Trim(txtKod.Text);
-    if (core::Len(txtKod.Text) != 6) return;
-    AdresPocztowy a = szukajKoduPocztowego(txtKod.Text);
-    txtMiejscowosc.Text = a.Miejscowosc;
-    txtPoczta.Text = a.Poczta;
-    txtGmina.Text = a.Gmina;
-    txtPowiat.Text = a.Powiat;
-    txtWojewodztwo.Text = a.Wojewodztwo;
+    core::Control& kod = txt(Osoba::Kod);
+    kod.Text = core::Trim(kod.Text);
+    if (core::Len(kod.Text) != 6) return;
+    AdresPocztowy a = szukajKoduPocztowego(kod.Text);
+    txt(Osoba::Miejscowosc).Text = a.Miejscowosc;
+    txt(Osoba::Poczta).Text = a.Poczta;
+    txt(Osoba::Gmina).Text = a.Gmina;
+    txt(Osoba::Powiat).Text = a.Powiat;
+    txt(Osoba::Wojewodztwo).Text = a.Wojewodztwo;
 }
 
 void Osoba1Screen::txtDataUrodzenia_Click() {
-    txtDataUrodzenia.Text = dataUrodzeniaZPesel(txtDataUrodzenia.Text, core::Trim(txtPesel.Text));
+    core::Control& data = txt(Osoba::DataUrodzenia);
+    data.Text = dataUrodzeniaZPesel(data.Text, core::Trim(txt(Osoba::Pesel).Text));
 }
 
 bool Osoba1Screen::sprawdz() {
@@ -296,77 +275,61 @@ bool Osoba1Screen::sprawdz() {
         SetFocus(c);
         return false;
     };
-    if (pustyLubNowe(txtNazwisko.Text)) return blad("Brak wpisu nazwiska", "Wpisz nazwisko !", txtNazwisko);
-    if (pustyLubNowe(txtImie.Text)) return blad("Brak wpisu imienia", "Wpisz Imie !", txtImie);
-    const std::string pesel = txtPesel.Text;
+    if (pustyLubNowe(txt(Osoba::Nazwisko).Text))
+        return blad("Brak wpisu nazwiska", "Wpisz nazwisko !", txt(Osoba::Nazwisko));
+    if (pustyLubNowe(txt(Osoba::Imie).Text)) return blad("Brak wpisu imienia", "Wpisz Imie !", txt(Osoba::Imie));
+    const std::string pesel = txt(Osoba::Pesel).Text;
     const bool brakPesel = pesel == "00000000000" || pesel == " " || pesel.empty();
-    if (brakPesel && core::UCase(core::Left(txtObywatelstwo.Text, 3)) != "POL") {
+    if (brakPesel && core::UCase(core::Left(txt(Osoba::Obywatelstwo).Text, 3)) != "POL") {
         ui.msgBox(" Jezeli jest to cudzoziemiec to wpisz Obywatelstwo i Nr Paszportu", Buttons::OK, Icon::Information);
-        txtPesel.Text.clear();
-        if (core::Trim(txtPaszport.Text).empty())
-            return blad("Jeśli Obcokrajowiec - wpisz nr Paszportu ", "Wpisz !", txtPaszport);
-        if (core::Trim(txtObywatelstwo.Text).empty())
-            return blad("Jeśli Obcokrajowiec - wpisz Obywatelstwo ", "Wpisz Obywatelstwo!", txtObywatelstwo);
+        txt(Osoba::Pesel).Text.clear();
+        if (core::Trim(txt(Osoba::Paszport).Text).empty())
+            return blad("Jeśli Obcokrajowiec - wpisz nr Paszportu ", "Wpisz !", txt(Osoba::Paszport));
+        if (core::Trim(txt(Osoba::Obywatelstwo).Text).empty())
+            return blad("Jeśli Obcokrajowiec - wpisz Obywatelstwo ", "Wpisz Obywatelstwo!", txt(Osoba::Obywatelstwo));
     } else {
-        if (pesel == "00000000000" || pesel == "Nowe") return blad("Brak wpisu nr Pesel", "Wpisz Pesel !", txtPesel);
-        if (core::Len(pesel) != 11) return blad("Zły nr Pesel", "Wpisz poprawnie Pesel !", txtPesel);
+        if (pesel == "00000000000" || pesel == "Nowe")
+            return blad("Brak wpisu nr Pesel", "Wpisz Pesel !", txt(Osoba::Pesel));
+        if (core::Len(pesel) != 11) return blad("Zły nr Pesel", "Wpisz poprawnie Pesel !", txt(Osoba::Pesel));
     }
-    const std::string kod = core::Trim(txtKodUbezpieczenia.Text);
+    const std::string kod = core::Trim(txt(Osoba::KodUbezpieczenia).Text);
     if (kod == "000000" || kod.empty())
-        return blad("Brak wpisu nr Kodu ubezpieczenia", "Wpisz Kod ubezpieczenia!", txtKodUbezpieczenia);
-    if (core::Len(txtDataUrodzenia.Text) != 10)
+        return blad("Brak wpisu nr Kodu ubezpieczenia", "Wpisz Kod ubezpieczenia!", txt(Osoba::KodUbezpieczenia));
+    if (core::Len(txt(Osoba::DataUrodzenia).Text) != 10)
         return blad("Brak daty urodzenia", "Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !",
-                    txtDataUrodzenia);
+                    txt(Osoba::DataUrodzenia));
     return true;
 }
 
 void Osoba1Screen::zbuduj(core::Record& r) {
     r.set(Osoba::Poczatek, "<Poczatek>");
-    r.set(Osoba::Nazwisko, core::UCase(core::Trim(txtNazwisko.Text)));
-    r.set(Osoba::Imie, core::UCase(core::Trim(txtImie.Text)));
-    r.set(Osoba::DrugieImie, txtDrugieImie.Text);
-    r.set(Osoba::Pesel, core::Left(core::Trim(txtPesel.Text), 11));
-    r.set(Osoba::Nip, txtNip.Text);
-    r.set(Osoba::DowodOsobisty, txtDowodOsobisty.Text);
-    r.set(Osoba::KodUbezpieczenia, core::Trim(core::Left(core::PadRight(core::Trim(txtKodUbezpieczenia.Text), 6), 6)));
-    r.set(Osoba::KodWyksztalcenia, txtKodWyksztalcenia.Text);
-    r.set(Osoba::DataUrodzenia, txtDataUrodzenia.Text);
-    r.set(Osoba::MiejsceUrodzenia, txtMiejsceUrodzenia.Text);
-    r.set(Osoba::ImieOjca, txtImieOjca.Text);
-    r.set(Osoba::ImieMatki, txtImieMatki.Text);
-    r.set(Osoba::Kod, core::PadRight(txtKod.Text, 6));
-    r.set(Osoba::Miejscowosc, txtMiejscowosc.Text);
-    r.set(Osoba::Ulica, TxtUlica.Text);
-    r.set(Osoba::NrDomu, txtNrDomu.Text);
-    r.set(Osoba::Lokal, txtLokal.Text);
-    r.set(Osoba::Gmina, txtGmina.Text);
-    r.set(Osoba::Powiat, txtPowiat.Text);
-    r.set(Osoba::Wojewodztwo, txtWojewodztwo.Text);
-    r.set(Osoba::Etat, etatTekst(txtEtat.Text, txtEtat2.Text));
-    r.set(Osoba::Grupa, txtGrupa.Text);
-    r.set(Osoba::Telefon, txtTelefon.Text);
-    r.set(Osoba::UrzadSkarbowy, txtUrzadSkarbowy.Text);
-    r.set(Osoba::OddzialZUS, txtOddzialZUS.Text);
-    r.set(Osoba::Poczta, txtPoczta.Text);
-    // The passport is the key of a foreigner: kept as it is shown, upper-cased.
-    r.set(Osoba::Paszport, core::UCase(core::Trim(txtPaszport.Text)));
-    r.set(Osoba::Mail, Txtmail.Text);
-    r.set(Osoba::Komorka, txtKomorka.Text);
-    r.set(Osoba::SkrPocztowa, txtSkrPocztowa.Text);
-    r.set(Osoba::NrUbezpieczenia, txtNrUbezpieczenia.Text);
-    r.set(Osoba::Obywatelstwo, s.Osoba.Obywatelstwo);
-    r.set(Osoba::DataZatrudnienia, TxtDataZatrudnienia.Text + Osoba::kZnacznikDaty);
-    r.set(Osoba::WskaznikFP, txtWskaznikFP.Text);
-    r.set(Osoba::NumerIP, txtNumerIP.Text);
-    r.set(Osoba::FGSP, txtFGSP.Text);
-    r.set(Osoba::Status, Option1.Value ? 1L : 2L);
+    // Field by field in the order of the record, so that a refused text names the first box.
+    for (int pole = Osoba::Nazwisko; pole < Osoba::Koniec; ++pole) {
+        switch (pole) {
+        case Osoba::Nazwisko:
+        case Osoba::Imie: r.set(pole, core::UCase(core::Trim(txt(pole).Text))); break;
+        case Osoba::Pesel: r.set(pole, core::Left(core::Trim(txt(pole).Text), 11)); break;
+        case Osoba::KodUbezpieczenia:
+            r.set(pole, core::Trim(core::Left(core::PadRight(core::Trim(txt(pole).Text), 6), 6)));
+            break;
+        case Osoba::Kod: r.set(pole, core::PadRight(txt(pole).Text, 6)); break;
+        case Osoba::Etat: r.set(pole, etatTekst(txtEtat.Text, txtEtat2.Text)); break;
+        // The passport is the key of a foreigner: kept as it is shown, upper-cased.
+        case Osoba::Paszport: r.set(pole, core::UCase(core::Trim(txt(pole).Text))); break;
+        case Osoba::Obywatelstwo: r.set(pole, s.Osoba.Obywatelstwo); break;
+        case Osoba::DataZatrudnienia: r.set(pole, txt(pole).Text + Osoba::kZnacznikDaty); break;
+        case Osoba::Status: r.set(pole, Option1.Value ? 1L : 2L); break;
+        default:
+            if (boxes.has(pole)) r.set(pole, txt(pole).Text);  // value 28 and the number pass through
+        }
+    }
     r.set(Osoba::Koniec, "<koniec>");
 }
 
 void Osoba1Screen::cmdZapiszZmiany_Click() {
     if (!sprawdz()) return;
     // 1. The citizenship of the person; "0" or nothing is Polish.
-    if (!txtObywatelstwo.Text.empty()) s.Osoba.Obywatelstwo = txtObywatelstwo.Text;
+    if (!txt(Osoba::Obywatelstwo).Text.empty()) s.Osoba.Obywatelstwo = txt(Osoba::Obywatelstwo).Text;
     s.Osoba.Obywatelstwo = obywatelstwo(s.Osoba.Obywatelstwo);
     // 2.-5. The record is found under the identifier it had in the file when it came on the
     // screen, and rebuilt from the controls; value 28 and the number pass through.
@@ -391,8 +354,8 @@ void Osoba1Screen::cmdZapiszNowaOsobe_Click() {
         Answer::OK)
         return;
     // 2.
-    const std::string pesel = core::Trim(txtPesel.Text);
-    if (pesel.empty() && core::Trim(txtPaszport.Text).empty()) {
+    const std::string pesel = core::Trim(txt(Osoba::Pesel).Text);
+    if (pesel.empty() && core::Trim(txt(Osoba::Paszport).Text).empty()) {
         ui.msgBox("Blad zapisu Wpisz PESEL dla krajowca lub Paszport i Obywatelstwo dla obckrajowca", Buttons::OK,
                   Icon::Exclamation, "Błędne dane !");
         return;
@@ -400,10 +363,10 @@ void Osoba1Screen::cmdZapiszNowaOsobe_Click() {
     // 3.
     setOption(Option1);
     // 4.
-    std::string obyw = txtObywatelstwo.Text;
+    std::string obyw = txt(Osoba::Obywatelstwo).Text;
     if (obyw.empty() || obyw[0] == '0') {
         obyw = "POLSKIE";
-        txtObywatelstwo.Text = obyw;
+        txt(Osoba::Obywatelstwo).Text = obyw;
         ui.msgBox("Ustal Obywatelstwo", Buttons::OK, Icon::Exclamation, "Błąd");
     }
     // 5. A warning only: the person is stored all the same.
@@ -412,7 +375,7 @@ void Osoba1Screen::cmdZapiszNowaOsobe_Click() {
     if ((obyw == "POLSKIE" && pesel.empty()) || (obyw != "POLSKIE" && !pesel.empty()))
         ui.msgBox(kBladId, Buttons::OK, Icon::Exclamation, "Błąd");
     // 6.
-    const std::string paszport = core::UCase(core::Trim(txtPaszport.Text));
+    const std::string paszport = core::UCase(core::Trim(txt(Osoba::Paszport).Text));
     const std::string klucz = kluczOsoby(obyw, pesel, paszport);
     if (klucz.empty() || obyw.empty()) {
         ui.msgBox(kBladId, Buttons::OK, Icon::Exclamation, "Błąd");
@@ -437,15 +400,15 @@ void Osoba1Screen::cmdZapiszNowaOsobe_Click() {
         core::writeRecord(w, r);
         core::commitFile(plik, tekst + w.text(), "tymcz.dta");
         // 7. The new person is the person of the session.
-        s.NazwiskoOsoby = core::UCase(core::Trim(txtNazwisko.Text));
-        s.ImieOsoby = core::UCase(core::Trim(txtImie.Text));
+        s.NazwiskoOsoby = core::UCase(core::Trim(txt(Osoba::Nazwisko).Text));
+        s.ImieOsoby = core::UCase(core::Trim(txt(Osoba::Imie).Text));
         s.KluczOsoby = klucz;
-        s.KodUbezpieczeniaOsoby = core::Trim(txtKodUbezpieczenia.Text);
+        s.KodUbezpieczeniaOsoby = core::Trim(txt(Osoba::KodUbezpieczenia).Text);
         s.LiczbaOsob = liczba + 1;
         s.Osoba.Obywatelstwo = obywatelstwo(obyw);
         kluczOsobyWPliku = kluczOsoby(r);
         numerWPliku = liczba + 1;
-        TxtDataZatrudnienia.Text = dataZatrudnienia(r.s(Osoba::DataZatrudnienia));
+        txt(Osoba::DataZatrudnienia).Text = dataZatrudnienia(r.s(Osoba::DataZatrudnienia));
         // 9.
         trybZmian();
         ui.msgBox("Rekord zostal dopisany ", Buttons::OK, Icon::Information, "Dopisany");
@@ -461,11 +424,11 @@ void Osoba1Screen::otworz(const std::string& ekran) {
     e.Otwarty = true;
     e.Etat = txtEtat.Text;
     e.Etat2 = txtEtat2.Text;
-    e.Grupa = txtGrupa.Text;
-    if (!txtObywatelstwo.Text.empty()) e.Obywatelstwo = obywatelstwo(txtObywatelstwo.Text);
+    e.Grupa = txt(Osoba::Grupa).Text;
+    if (!txt(Osoba::Obywatelstwo).Text.empty()) e.Obywatelstwo = obywatelstwo(txt(Osoba::Obywatelstwo).Text);
     if (e.Obywatelstwo.empty()) e.Obywatelstwo = "POLSKIE";
-    e.Paszport = core::UCase(core::Trim(txtPaszport.Text));
-    e.DataZatrudnienia = TxtDataZatrudnienia.Text;
+    e.Paszport = core::UCase(core::Trim(txt(Osoba::Paszport).Text));
+    e.DataZatrudnienia = txt(Osoba::DataZatrudnienia).Text;
     e.UlamekEtatu = ulamekEtatu(txtEtat.Text, txtEtat2.Text);
     ui.open(ekran, s);
     odswiezMenu();

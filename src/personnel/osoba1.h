@@ -4,6 +4,7 @@
 #pragma once
 #include <string>
 
+#include "core/fieldboxes.h"
 #include "core/form.h"
 #include "core/record.h"
 #include "core/session.h"
@@ -48,46 +49,14 @@ public:
     core::Control fraZatrudnienie{this, "fraZatrudnienie", core::Kind::Frame, "Zatrudnienie i ubezpieczenie"};
     core::Control fraStatus{this, "fraStatus", core::Kind::Frame, "Status Aktywności"};
 
-    core::Control txtNazwisko{this, "txtNazwisko", core::Kind::TextBox};
-    core::Control txtImie{this, "txtImie", core::Kind::TextBox};
-    core::Control txtDrugieImie{this, "txtDrugieImie", core::Kind::TextBox};
-    core::Control txtPesel{this, "txtPesel", core::Kind::TextBox};
-    core::Control txtDataUrodzenia{this, "txtDataUrodzenia", core::Kind::TextBox};
-    core::Control txtMiejsceUrodzenia{this, "txtMiejsceUrodzenia", core::Kind::TextBox};
-    core::Control txtImieOjca{this, "txtImieOjca", core::Kind::TextBox};
-    core::Control txtImieMatki{this, "txtImieMatki", core::Kind::TextBox};
-    core::Control txtObywatelstwo{this, "txtObywatelstwo", core::Kind::TextBox};
-    core::Control txtPaszport{this, "txtPaszport", core::Kind::TextBox};
-    core::Control txtDowodOsobisty{this, "txtDowodOsobisty", core::Kind::TextBox};
-    core::Control txtNip{this, "txtNip", core::Kind::TextBox};
-    core::Control txtKodWyksztalcenia{this, "txtKodWyksztalcenia", core::Kind::TextBox};
-    core::Control txtTelefon{this, "txtTelefon", core::Kind::TextBox};
-    core::Control txtKomorka{this, "txtKomorka", core::Kind::TextBox};
-    core::Control Txtmail{this, "Txtmail", core::Kind::TextBox};
+    // The boxes of the personnel record (the table in osoba1.cpp); the fraction of the post is
+    // two boxes of field Etat, its numerator and its denominator.
+    core::FieldBoxes boxes;
+    core::Control& txt(int field) { return boxes[field]; }
+    core::Control& txtEtat = *find("txtEtat");
+    core::Control& txtEtat2 = *find("txtEtat2");
 
-    core::Control txtKod{this, "txtKod", core::Kind::TextBox};
-    core::Control txtMiejscowosc{this, "txtMiejscowosc", core::Kind::TextBox};
-    core::Control txtPoczta{this, "txtPoczta", core::Kind::TextBox};
-    core::Control TxtUlica{this, "TxtUlica", core::Kind::TextBox};
-    core::Control txtNrDomu{this, "txtNrDomu", core::Kind::TextBox};
-    core::Control txtLokal{this, "txtLokal", core::Kind::TextBox};
-    core::Control txtGmina{this, "txtGmina", core::Kind::TextBox};
-    core::Control txtPowiat{this, "txtPowiat", core::Kind::TextBox};
-    core::Control txtWojewodztwo{this, "txtWojewodztwo", core::Kind::TextBox};
-    core::Control txtSkrPocztowa{this, "txtSkrPocztowa", core::Kind::TextBox};
-    core::Control txtUrzadSkarbowy{this, "txtUrzadSkarbowy", core::Kind::TextBox};
-    core::Control txtOddzialZUS{this, "txtOddzialZUS", core::Kind::TextBox};
-
-    core::Control txtNumerIP{this, "txtNumerIP", core::Kind::TextBox};
-    core::Control txtKodUbezpieczenia{this, "txtKodUbezpieczenia", core::Kind::TextBox};
-    core::Control txtNrUbezpieczenia{this, "txtNrUbezpieczenia", core::Kind::TextBox};
-    core::Control TxtDataZatrudnienia{this, "TxtDataZatrudnienia", core::Kind::TextBox};
-    core::Control txtGrupa{this, "txtGrupa", core::Kind::TextBox};
-    core::Control txtEtat{this, "txtEtat", core::Kind::TextBox};
-    core::Control txtEtat2{this, "txtEtat2", core::Kind::TextBox};
     core::Control lbUlamekEtatu{this, "lbUlamekEtatu", core::Kind::Label};
-    core::Control txtWskaznikFP{this, "txtWskaznikFP", core::Kind::TextBox};
-    core::Control txtFGSP{this, "txtFGSP", core::Kind::TextBox};
     core::Control lbFunduszPracy{this, "lbFunduszPracy", core::Kind::Label,
                                  "Poniżej 1 /4 etatu nie nalicza Funduszu Pracy"};
     core::Control lbWiek{this, "lbWiek", core::Kind::Label, "Kobiety > 55 i męższczyźni > 60 FP i FGŚP = 0"};

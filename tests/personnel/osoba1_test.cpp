@@ -27,14 +27,14 @@ TEST(Osoba1, OpensThePersonOfTheSession) {
     f.Load();
     EXPECT_TRUE(ui.boxes.empty());
     EXPECT_EQ(f.Caption, "a LEWANDOWSKA EWA");
-    EXPECT_EQ(f.txtNazwisko.Text, "LEWANDOWSKA");
-    EXPECT_EQ(f.txtPesel.Text, "85031589069");
+    EXPECT_EQ(f.txt(Osoba::Nazwisko).Text, "LEWANDOWSKA");
+    EXPECT_EQ(f.txt(Osoba::Pesel).Text, "85031589069");
     EXPECT_EQ(f.txtEtat.Text, "3");
     EXPECT_EQ(f.txtEtat2.Text, "4");
     EXPECT_EQ(f.lbUlamekEtatu.Caption, "0.75");
-    EXPECT_EQ(f.TxtDataZatrudnienia.Text, "01-01-2016");  // the literal behind the date cut off
-    EXPECT_EQ(f.txtNumerIP.Text, "7");                     // value 40
-    EXPECT_EQ(f.txtKod.Text, "32-447");
+    EXPECT_EQ(f.txt(Osoba::DataZatrudnienia).Text, "01-01-2016");  // the literal behind the date cut off
+    EXPECT_EQ(f.txt(Osoba::NumerIP).Text, "7");                     // value 40
+    EXPECT_EQ(f.txt(Osoba::Kod).Text, "32-447");
     EXPECT_EQ(f.Option1.Value, 1);
     EXPECT_TRUE(f.cmdZapiszZmiany.Visible);
     EXPECT_FALSE(f.cmdZapiszNowaOsobe.Visible);
@@ -53,9 +53,9 @@ TEST(Osoba1, CitizenshipZeroAndShortDateOfHire) {
     ScriptedDialogs ui;
     Osoba1Screen f(ui, d.s);
     f.Load();
-    EXPECT_EQ(f.txtNazwisko.Text, "ZIELIŃSKI");
-    EXPECT_EQ(f.txtObywatelstwo.Text, "0");
-    EXPECT_EQ(f.TxtDataZatrudnienia.Text, "");
+    EXPECT_EQ(f.txt(Osoba::Nazwisko).Text, "ZIELIŃSKI");
+    EXPECT_EQ(f.txt(Osoba::Obywatelstwo).Text, "0");
+    EXPECT_EQ(f.txt(Osoba::DataZatrudnienia).Text, "");
     EXPECT_EQ(f.Option2.Value, 1);
     EXPECT_EQ(f.Option1.Value, 0);
 }
@@ -69,28 +69,28 @@ TEST(Osoba1, ValidationOfSaveInItsOrder) {
     };
     const std::string info = "[]  Jezeli jest to cudzoziemiec to wpisz Obywatelstwo i Nr Paszportu";
     const Case cases[] = {
-        {"empty surname", [](Osoba1Screen& f) { f.txtNazwisko.Text = ""; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
-        {"surname Nowe", [](Osoba1Screen& f) { f.txtNazwisko.Text = "Nowe"; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
-        {"both names wrong", [](Osoba1Screen& f) { f.txtNazwisko.Text = " "; f.txtImie.Text = ""; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
-        {"empty first name", [](Osoba1Screen& f) { f.txtImie.Text = ""; }, {"[Wpisz Imie !] Brak wpisu imienia"}, "txtImie"},
-        {"first name Nowe", [](Osoba1Screen& f) { f.txtImie.Text = "Nowe"; }, {"[Wpisz Imie !] Brak wpisu imienia"}, "txtImie"},
+        {"empty surname", [](Osoba1Screen& f) { f.txt(Osoba::Nazwisko).Text = ""; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
+        {"surname Nowe", [](Osoba1Screen& f) { f.txt(Osoba::Nazwisko).Text = "Nowe"; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
+        {"both names wrong", [](Osoba1Screen& f) { f.txt(Osoba::Nazwisko).Text = " "; f.txt(Osoba::Imie).Text = ""; }, {"[Wpisz nazwisko !] Brak wpisu nazwiska"}, "txtNazwisko"},
+        {"empty first name", [](Osoba1Screen& f) { f.txt(Osoba::Imie).Text = ""; }, {"[Wpisz Imie !] Brak wpisu imienia"}, "txtImie"},
+        {"first name Nowe", [](Osoba1Screen& f) { f.txt(Osoba::Imie).Text = "Nowe"; }, {"[Wpisz Imie !] Brak wpisu imienia"}, "txtImie"},
         {"foreigner without passport",
-         [](Osoba1Screen& f) { f.txtPesel.Text = "00000000000"; f.txtObywatelstwo.Text = "UKRAIŃSKIE"; f.txtPaszport.Text = ""; },
+         [](Osoba1Screen& f) { f.txt(Osoba::Pesel).Text = "00000000000"; f.txt(Osoba::Obywatelstwo).Text = "UKRAIŃSKIE"; f.txt(Osoba::Paszport).Text = ""; },
          {info, "[Wpisz !] Jeśli Obcokrajowiec - wpisz nr Paszportu "}, "txtPaszport"},
         {"blank PESEL, no citizenship",
-         [](Osoba1Screen& f) { f.txtPesel.Text = " "; f.txtObywatelstwo.Text = ""; f.txtPaszport.Text = "AB1"; },
+         [](Osoba1Screen& f) { f.txt(Osoba::Pesel).Text = " "; f.txt(Osoba::Obywatelstwo).Text = ""; f.txt(Osoba::Paszport).Text = "AB1"; },
          {info, "[Wpisz Obywatelstwo!] Jeśli Obcokrajowiec - wpisz Obywatelstwo "}, "txtObywatelstwo"},
-        {"PESEL of zeros", [](Osoba1Screen& f) { f.txtPesel.Text = "00000000000"; }, {"[Wpisz Pesel !] Brak wpisu nr Pesel"}, "txtPesel"},
-        {"PESEL Nowe", [](Osoba1Screen& f) { f.txtPesel.Text = "Nowe"; }, {"[Wpisz Pesel !] Brak wpisu nr Pesel"}, "txtPesel"},
-        {"PESEL of 10", [](Osoba1Screen& f) { f.txtPesel.Text = "7503141231"; }, {"[Wpisz poprawnie Pesel !] Zły nr Pesel"}, "txtPesel"},
+        {"PESEL of zeros", [](Osoba1Screen& f) { f.txt(Osoba::Pesel).Text = "00000000000"; }, {"[Wpisz Pesel !] Brak wpisu nr Pesel"}, "txtPesel"},
+        {"PESEL Nowe", [](Osoba1Screen& f) { f.txt(Osoba::Pesel).Text = "Nowe"; }, {"[Wpisz Pesel !] Brak wpisu nr Pesel"}, "txtPesel"},
+        {"PESEL of 10", [](Osoba1Screen& f) { f.txt(Osoba::Pesel).Text = "7503141231"; }, {"[Wpisz poprawnie Pesel !] Zły nr Pesel"}, "txtPesel"},
         {"POL... without PESEL",
-         [](Osoba1Screen& f) { f.txtPesel.Text = ""; f.txtObywatelstwo.Text = "POLINEZYJSKIE"; f.txtPaszport.Text = "X9"; },
+         [](Osoba1Screen& f) { f.txt(Osoba::Pesel).Text = ""; f.txt(Osoba::Obywatelstwo).Text = "POLINEZYJSKIE"; f.txt(Osoba::Paszport).Text = "X9"; },
          {"[Wpisz poprawnie Pesel !] Zły nr Pesel"}, "txtPesel"},
-        {"insurance code of zeros", [](Osoba1Screen& f) { f.txtKodUbezpieczenia.Text = "000000"; },
+        {"insurance code of zeros", [](Osoba1Screen& f) { f.txt(Osoba::KodUbezpieczenia).Text = "000000"; },
          {"[Wpisz Kod ubezpieczenia!] Brak wpisu nr Kodu ubezpieczenia"}, "txtKodUbezpieczenia"},
-        {"no insurance code", [](Osoba1Screen& f) { f.txtKodUbezpieczenia.Text = ""; },
+        {"no insurance code", [](Osoba1Screen& f) { f.txt(Osoba::KodUbezpieczenia).Text = ""; },
          {"[Wpisz Kod ubezpieczenia!] Brak wpisu nr Kodu ubezpieczenia"}, "txtKodUbezpieczenia"},
-        {"short birth date", [](Osoba1Screen& f) { f.txtDataUrodzenia.Text = "1-3-1975"; },
+        {"short birth date", [](Osoba1Screen& f) { f.txt(Osoba::DataUrodzenia).Text = "1-3-1975"; },
          {"[Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !] Brak daty urodzenia"}, "txtDataUrodzenia"},
         {"birth date of 11", [](Osoba1Screen& f) { f.txtDataUrodzenia.Text = "01-03-19750"; },
          {"[Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !] Brak daty urodzenia"}, "txtDataUrodzenia"},
@@ -118,11 +118,11 @@ TEST(Osoba1, ForeignerPathEmptiesThePesel) {
     ScriptedDialogs ui;
     Osoba1Screen f(ui, d.s);
     f.Load();
-    f.txtPesel.Text = "00000000000";
-    f.txtObywatelstwo.Text = "NIEMIECKIE";
-    f.txtPaszport.Text = "";
+    f.txt(Osoba::Pesel).Text = "00000000000";
+    f.txt(Osoba::Obywatelstwo).Text = "NIEMIECKIE";
+    f.txt(Osoba::Paszport).Text = "";
     f.cmdZapiszZmiany_Click();
-    EXPECT_EQ(f.txtPesel.Text, "");
+    EXPECT_EQ(f.txt(Osoba::Pesel).Text, "");
     EXPECT_EQ(ui.boxes.front().icon, core::Icon::Information);
 }
 
@@ -133,15 +133,15 @@ TEST(Osoba1, SaveRebuildsTheRecordFromTheControls) {
     ScriptedDialogs ui;
     Osoba1Screen f(ui, d.s);
     f.Load();
-    f.txtNazwisko.Text = "  wiśniewska-nowak ";
-    f.txtImie.Text = "maria";
-    f.txtKodUbezpieczenia.Text = " 0110001234 ";
-    f.txtKod.Text = "32-4";
+    f.txt(Osoba::Nazwisko).Text = "  wiśniewska-nowak ";
+    f.txt(Osoba::Imie).Text = "maria";
+    f.txt(Osoba::KodUbezpieczenia).Text = " 0110001234 ";
+    f.txt(Osoba::Kod).Text = "32-4";
     f.txtEtat.Text = "1";
     f.txtEtat2.Text = "2";
-    f.TxtDataZatrudnienia.Text = "01-10-1990";
-    f.txtNumerIP.Text = "12";
-    f.txtPaszport.Text = "ab12";
+    f.txt(Osoba::DataZatrudnienia).Text = "01-10-1990";
+    f.txt(Osoba::NumerIP).Text = "12";
+    f.txt(Osoba::Paszport).Text = "ab12";
     f.setOption(f.Option2);
     f.cmdZapiszZmiany_Click();
     EXPECT_EQ(ui.lines(), lines({"[Potwierdzenie zapisu] Zmiany zostały wprowadzone"}));
@@ -177,18 +177,18 @@ TEST(Osoba1, ForeignerAddedThenSaved) {
     f.Load();
     // New-person mode with the next free number.
     EXPECT_TRUE(f.trybNowejOsoby());
-    EXPECT_EQ(f.txtNazwisko.Text, "Nowe");
-    EXPECT_EQ(f.txtImie.Text, "Nowe");
-    EXPECT_EQ(f.txtPesel.Text, "00000000000");
-    EXPECT_EQ(f.txtKodUbezpieczenia.Text, "011000");
-    EXPECT_EQ(f.txtNumerIP.Text, "8");
-    EXPECT_EQ(f.txtDrugieImie.Text, "");
-    f.txtNazwisko.Text = "Ivanova";
-    f.txtImie.Text = "Tatsiana";
-    f.txtPesel.Text = "";
-    f.txtPaszport.Text = "mp4455667";
-    f.txtObywatelstwo.Text = "BIAŁORUSKIE";
-    f.txtDataUrodzenia.Text = "12-06-1994";
+    EXPECT_EQ(f.txt(Osoba::Nazwisko).Text, "Nowe");
+    EXPECT_EQ(f.txt(Osoba::Imie).Text, "Nowe");
+    EXPECT_EQ(f.txt(Osoba::Pesel).Text, "00000000000");
+    EXPECT_EQ(f.txt(Osoba::KodUbezpieczenia).Text, "011000");
+    EXPECT_EQ(f.txt(Osoba::NumerIP).Text, "8");
+    EXPECT_EQ(f.txt(Osoba::DrugieImie).Text, "");
+    f.txt(Osoba::Nazwisko).Text = "Ivanova";
+    f.txt(Osoba::Imie).Text = "Tatsiana";
+    f.txt(Osoba::Pesel).Text = "";
+    f.txt(Osoba::Paszport).Text = "mp4455667";
+    f.txt(Osoba::Obywatelstwo).Text = "BIAŁORUSKIE";
+    f.txt(Osoba::DataUrodzenia).Text = "12-06-1994";
     f.txtEtat.Text = "1";
     f.txtEtat2.Text = "1";
     f.cmdZapiszNowaOsobe_Click();
@@ -223,7 +223,7 @@ TEST(Osoba1, ForeignerAddedThenSaved) {
     Osoba1Screen g(ui, d.s);
     g.Load();
     EXPECT_FALSE(g.trybNowejOsoby());
-    EXPECT_EQ(g.txtObywatelstwo.Text, "BIAŁORUSKIE");
+    EXPECT_EQ(g.txt(Osoba::Obywatelstwo).Text, "BIAŁORUSKIE");
 }
 
 TEST(Osoba1, AddingAPersonBoxes) {
@@ -259,11 +259,11 @@ TEST(Osoba1, AddingAPersonBoxes) {
         ScriptedDialogs ui;
         Osoba1Screen f(ui, d.s);
         f.Load();
-        f.txtNazwisko.Text = "Nowicki";
-        f.txtImie.Text = "Adam";
-        f.txtPesel.Text = c.pesel;
-        f.txtPaszport.Text = c.paszport;
-        f.txtObywatelstwo.Text = c.obywatelstwo;
+        f.txt(Osoba::Nazwisko).Text = "Nowicki";
+        f.txt(Osoba::Imie).Text = "Adam";
+        f.txt(Osoba::Pesel).Text = c.pesel;
+        f.txt(Osoba::Paszport).Text = c.paszport;
+        f.txt(Osoba::Obywatelstwo).Text = c.obywatelstwo;
         f.cmdZapiszNowaOsobe_Click();
         EXPECT_EQ(ui.lines(), c.boxes);
         auto recs = d.osoby();
@@ -286,7 +286,7 @@ TEST(Osoba1, CancelledAddWritesNothing) {
     ui.answer(core::Answer::Cancel);
     Osoba1Screen f(ui, d.s);
     f.Load();
-    f.txtPesel.Text = "92010112345";
+    f.txt(Osoba::Pesel).Text = "92010112345";
     f.cmdZapiszNowaOsobe_Click();
     EXPECT_EQ(ui.boxes.size(), 1u);
     EXPECT_EQ(readBytes(d.per()), before);
@@ -303,7 +303,7 @@ TEST(Osoba1, UnknownPersonOpensNewPersonMode) {
     EXPECT_EQ(d.s.NazwiskoOsoby, "Nowe");
     EXPECT_EQ(d.s.KluczOsoby, "00000000000");
     EXPECT_EQ(d.s.KodUbezpieczeniaOsoby, "011000");
-    EXPECT_EQ(f.txtNumerIP.Text, "8");
+    EXPECT_EQ(f.txt(Osoba::NumerIP).Text, "8");
 }
 
 TEST(Osoba1, MissingFileQuestion) {
@@ -339,11 +339,11 @@ TEST(Osoba1, MissingFileQuestion) {
     EXPECT_EQ(testing_support::readLines(d.per()), want);
     // The first record is on the screen, to be completed and saved.
     EXPECT_FALSE(f.trybNowejOsoby());
-    f.txtNazwisko.Text = "Nowak";
-    f.txtImie.Text = "Jan";
-    f.txtPesel.Text = "75031412317";
-    f.txtKodUbezpieczenia.Text = "011000";
-    f.txtDataUrodzenia.Text = "14-03-1975";
+    f.txt(Osoba::Nazwisko).Text = "Nowak";
+    f.txt(Osoba::Imie).Text = "Jan";
+    f.txt(Osoba::Pesel).Text = "75031412317";
+    f.txt(Osoba::KodUbezpieczenia).Text = "011000";
+    f.txt(Osoba::DataUrodzenia).Text = "14-03-1975";
     f.cmdZapiszZmiany_Click();
     auto recs = d.osoby();
     ASSERT_EQ(recs.size(), 1u);
@@ -362,7 +362,7 @@ TEST(Osoba1, ErrorsInBaseBox) {
     Osoba1Screen f(ui, d.s);
     f.Load();
     EXPECT_EQ(ui.lines(), lines({"[Błedy w Bazie]  Błędy w bazie - przeprowadź Kalibrowanie Bazy i sortowanie pracownikow po kalibracji"}));
-    EXPECT_EQ(f.txtImie.Text, "KATARZYNA");
+    EXPECT_EQ(f.txt(Osoba::Imie).Text, "KATARZYNA");
 }
 
 TEST(Osoba1, PostalLookupAndBirthDate) {
@@ -371,29 +371,29 @@ TEST(Osoba1, PostalLookupAndBirthDate) {
     ScriptedDialogs ui;
     Osoba1Screen f(ui, d.s);
     f.Load();
-    f.txtKod.Text = "34-700 ";
+    f.txt(Osoba::Kod).Text = "34-700 ";
     f.txtKod_Change();
-    EXPECT_EQ(f.txtKod.Text, "34-700");
-    EXPECT_EQ(f.txtMiejscowosc.Text, "Rabka-Zdrój");
-    EXPECT_EQ(f.txtPoczta.Text, "Rabka-Zdrój");
-    EXPECT_EQ(f.txtGmina.Text, "Rabka-Zdrój");
-    EXPECT_EQ(f.txtPowiat.Text, "Nowy Targ");
-    EXPECT_EQ(f.txtWojewodztwo.Text, "Małopolskie");
-    f.txtKod.Text = "32-40";  // five characters: no lookup
+    EXPECT_EQ(f.txt(Osoba::Kod).Text, "34-700");
+    EXPECT_EQ(f.txt(Osoba::Miejscowosc).Text, "Rabka-Zdrój");
+    EXPECT_EQ(f.txt(Osoba::Poczta).Text, "Rabka-Zdrój");
+    EXPECT_EQ(f.txt(Osoba::Gmina).Text, "Rabka-Zdrój");
+    EXPECT_EQ(f.txt(Osoba::Powiat).Text, "Nowy Targ");
+    EXPECT_EQ(f.txt(Osoba::Wojewodztwo).Text, "Małopolskie");
+    f.txt(Osoba::Kod).Text = "32-40";  // five characters: no lookup
     f.txtKod_Change();
-    EXPECT_EQ(f.txtMiejscowosc.Text, "Rabka-Zdrój");
-    f.txtKod.Text = "99-999";  // unknown: the five fields emptied
+    EXPECT_EQ(f.txt(Osoba::Miejscowosc).Text, "Rabka-Zdrój");
+    f.txt(Osoba::Kod).Text = "99-999";  // unknown: the five fields emptied
     f.txtKod_Change();
-    for (auto* c : {&f.txtMiejscowosc, &f.txtPoczta, &f.txtGmina, &f.txtPowiat, &f.txtWojewodztwo}) EXPECT_EQ(c->Text, "");
+    for (auto* c : {&f.txt(Osoba::Miejscowosc), &f.txt(Osoba::Poczta), &f.txt(Osoba::Gmina), &f.txt(Osoba::Powiat), &f.txt(Osoba::Wojewodztwo)}) EXPECT_EQ(c->Text, "");
 
-    f.txtPesel.Text = "85031512345";
-    f.txtDataUrodzenia.Text = "";
+    f.txt(Osoba::Pesel).Text = "85031512345";
+    f.txt(Osoba::DataUrodzenia).Text = "";
     f.txtDataUrodzenia_Click();
-    EXPECT_EQ(f.txtDataUrodzenia.Text, "15-03-1985");
-    f.txtPesel.Text = "01211512345";
-    f.txtDataUrodzenia.Text = "";
-    f.fire(f.txtDataUrodzenia, &core::Control::Click);
-    EXPECT_EQ(f.txtDataUrodzenia.Text, "15-21-2001");
+    EXPECT_EQ(f.txt(Osoba::DataUrodzenia).Text, "15-03-1985");
+    f.txt(Osoba::Pesel).Text = "01211512345";
+    f.txt(Osoba::DataUrodzenia).Text = "";
+    f.fire(f.txt(Osoba::DataUrodzenia), &core::Control::Click);
+    EXPECT_EQ(f.txt(Osoba::DataUrodzenia).Text, "15-21-2001");
     EXPECT_TRUE(ui.boxes.empty());
 }
 
@@ -406,7 +406,7 @@ TEST(Osoba1, EnterMovesOnAndPostFraction) {
     struct {
         core::Control* c;
         const char* next;
-    } cases[] = {{&f.txtNazwisko, "txtImie"}, {&f.txtImie, "txtPesel"}, {&f.txtEtat, "txtEtat2"}};
+    } cases[] = {{&f.txt(Osoba::Nazwisko), "txtImie"}, {&f.txt(Osoba::Imie), "txtPesel"}, {&f.txtEtat, "txtEtat2"}};
     for (const auto& c : cases) {
         f.FocusTo.clear();
         f.fire(*c.c, &core::Control::KeyEnter);
@@ -467,7 +467,7 @@ TEST(Osoba1, DoubleQuoteIsRefusedByEveryWriterOfThePersonFile) {
              d.wybierz(1);
              Osoba1Screen f(ui, d.s);
              f.Load();
-             f.TxtUlica.Text = "Aleja \"Róż\", 5";
+             f.txt(Osoba::Ulica).Text = "Aleja \"Róż\", 5";
              f.cmdZapiszZmiany_Click();
              EXPECT_EQ(f.FocusTo, "TxtUlica");
          }, "\"Ulica\""},
@@ -476,9 +476,9 @@ TEST(Osoba1, DoubleQuoteIsRefusedByEveryWriterOfThePersonFile) {
              d.nowa();
              Osoba1Screen f(ui, d.s);
              f.Load();
-             f.txtPesel.Text = "92010112345";
-             f.txtObywatelstwo.Text = "POLSKIE";
-             f.TxtUlica.Text = "Aleja \"Róż\"";
+             f.txt(Osoba::Pesel).Text = "92010112345";
+             f.txt(Osoba::Obywatelstwo).Text = "POLSKIE";
+             f.txt(Osoba::Ulica).Text = "Aleja \"Róż\"";
              f.cmdZapiszNowaOsobe_Click();
          }, "\"Ulica\""},
         {"renumbering in the sort",
@@ -520,9 +520,9 @@ TEST(Osoba1, NewPersonModeEmptiesEveryOtherBox) {
         EXPECT_EQ(c->Text, "") << n;
     }
     // So the citizenship is asked for on adding.
-    f.txtNazwisko.Text = "Nowicki";
-    f.txtImie.Text = "Adam";
-    f.txtPesel.Text = "92010112345";
+    f.txt(Osoba::Nazwisko).Text = "Nowicki";
+    f.txt(Osoba::Imie).Text = "Adam";
+    f.txt(Osoba::Pesel).Text = "92010112345";
     f.cmdZapiszNowaOsobe_Click();
     EXPECT_EQ(ui.lines(), lines({"[Dodaj rekord] Uzupełnij niezbedne dane i Zapisz Zmiany", "[Błąd] Ustal Obywatelstwo",
                                  "[Dopisany] Rekord zostal dopisany "}));
