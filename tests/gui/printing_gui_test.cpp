@@ -117,14 +117,14 @@ TEST(PodgladGui, ListSavedAsPdfFromThePreviewKeepsTheWholeLine) {
     printing::DrukListy d(demo.session, ui, p);
     d.modDrukujPoczatek();
     ASSERT_TRUE(d.modDrukujListe(false));
-    ASSERT_EQ(p.documents().size(), 1u);
-    const auto& pages = p.documents().back();
+    const auto pages = p.document().pages();
+    ASSERT_FALSE(pages.empty());
     EXPECT_TRUE(pages[0][3].bold);
     EXPECT_EQ(pages[0][3].size, 7);
     EXPECT_EQ(pages[0][3].font, "Courier New");
     testing_support::TempDir dir;
     QString file = QString::fromStdString((dir / "lista.pdf").string());
-    ASSERT_TRUE(gui::savePdf(pages, file));
+    ASSERT_TRUE(gui::savePdf(p.document(), file));
     if (!std::filesystem::exists("/usr/bin/pdftotext")) GTEST_SKIP() << "no pdftotext";
     auto r = testing_support::run("/usr/bin/pdftotext", {"-layout", file.toStdString(), "-"}, dir.path());
     EXPECT_NE(r.out.find("|" + std::string(132, '=') + "|"), std::string::npos) << r.out;
