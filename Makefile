@@ -64,9 +64,11 @@ fuzz:
 package: build
 	cd $(BUILD) && cpack -G DEB
 
-# Benchmarks on generated data.
+# Benchmarks on generated data: the month's commands of lists of 2,500 and 25,000 people against
+# a lean baseline (time and peak memory), then the engine's own benchmarks.
 bench: build
-	$(BUILD)/bench/pensja-bench
+	$(BUILD)/bench/pensja-bench-cli
+	@[ ! -x $(BUILD)/bench/pensja-bench ] || $(BUILD)/bench/pensja-bench
 
 clean:
 	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

@@ -45,19 +45,11 @@ std::string pesel(int i) {
 
 }  // namespace
 
-core::Session wygenerujListe(const fs::path& folder, const std::string& lista, int osoby) {
-    core::Session s;
-    s.Katalog = folder.string();
-    s.SkrotPlatnika = "BENCH";
-    s.DataListy = "31-03-2020";
-    s.NazwaZbioru = lista;
-    fs::create_directories(folder);
-    core::ensureFolder(folder, {"dane"});
-    for (const char* f : {"bazy", "person", "Urlopy"}) core::ensureFolder(folder, {"BENCH", f});
-    core::writeAll(Dane::path(s), {stawki2020()});
-
+void zapiszListe(const core::Session& s, int osoby, int rokUrlopow) {
     std::vector<core::Record> place, kadry;
     std::vector<paycalc::Urlop::Blok> urlopy;
+    place.reserve(static_cast<std::size_t>(osoby));
+    kadry.reserve(static_cast<std::size_t>(osoby));
     for (int i = 1; i <= osoby; ++i) {
         const std::string klucz = pesel(i);
         const std::string nazwisko = "NAZWISKO" + std::to_string(i);
@@ -108,19 +100,48 @@ core::Session wygenerujListe(const fs::path& folder, const std::string& lista, i
         o.set(Osoba::Numer, static_cast<long>(i));
         kadry.push_back(o);
 
-        paycalc::Urlop::Blok b = paycalc::Urlop::nowyBlok(nazwisko, "JAN", klucz, "  1  1", 2020);
+        // A leave block for every fifth person, settled, with two days of leave in January and
+        // in March; every tenth has one more block, not settled.
         if (i % 5 == 0) {
+            paycalc::Urlop::Blok b = paycalc::Urlop::nowyBlok(nazwisko, "JAN", klucz, "  1  1", rokUrlopow);
             b.naglowek.set(paycalc::Urlop::Naglowek::Rozliczac, "1");
-            b.miesiace[2].set(paycalc::Urlop::Miesiac::Stawka, "120.50");
-            b.dni[2][1].set(paycalc::Urlop::Dzien::Kod, "U8");
-            b.dni[2][2].set(paycalc::Urlop::Dzien::Kod, "U8");
+            for (int m : {0, 2}) {
+                b.miesiace[m].set(paycalc::Urlop::Miesiac::Stawka, "120.50");
+                b.dni[m][1].set(paycalc::Urlop::Dzien::Kod, "U8");
+                b.dni[m][2].set(paycalc::Urlop::Dzien::Kod, "U8");
+            }
+            urlopy.push_back(std::move(b));
+            if (i % 10 == 0) urlopy.push_back(paycalc::Urlop::nowyBlok(nazwisko, "JAN", klucz, "  1  1", rokUrlopow));
         }
-        urlopy.push_back(std::move(b));
     }
     core::writeAll(Pay::path(s), place);
     core::writeAll(Osoba::path(s), kadry);
-    paycalc::Urlop::writeAll(paycalc::Urlop::path(s, "2020"), urlopy);
+    paycalc::Urlop::writeAll(paycalc::Urlop::path(s, std::to_string(rokUrlopow)), urlopy);
+}
+
+core::Session wygenerujListe(const fs::path& folder, const std::string& lista, int osoby) {
+    core::Session s;
+    s.Katalog = folder.string();
+    s.SkrotPlatnika = "BENCH";
+    s.DataListy = "31-03-2020";
+    s.NazwaZbioru = lista;
+    fs::create_directories(folder);
+    core::ensureFolder(folder, {"dane"});
+    for (const char* f : {"bazy", "person", "Urlopy"}) core::ensureFolder(folder, {"BENCH", f});
+    core::writeAll(Dane::path(s), {stawki2020()});
+    zapiszListe(s, osoby, 2020);
     return s;
+}
+
+void listaWDemo(const fs::path& demo, const fs::path& folder, int osoby) {
+    fs::create_directories(folder);
+    fs::copy(demo, folder, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    core::Session s;
+    s.Katalog = folder.string();
+    s.SkrotPlatnika = "DEMO";
+    s.DataListy = "31-01-2021";
+    s.NazwaZbioru = "a";
+    zapiszListe(s, osoby, 2021);
 }
 
 }  // namespace bench

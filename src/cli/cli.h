@@ -1,7 +1,9 @@
 // pensja-cli: the batch commands of the program, headless, on the same engine.
 #pragma once
+#include <cstdio>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -11,8 +13,27 @@
 #include "core/printer.h"
 #include "core/session.h"
 #include "core/writelock.h"
+#include "printing/spool.h"
 
 namespace cli {
+
+// The printed text on its way out (lines end with "\n", pages are separated by a form feed),
+// kept in a temporary file until the command ends well.
+class TextSpool : public core::PageSink {
+public:
+    TextSpool();
+    ~TextSpool() override;
+    TextSpool(const TextSpool&) = delete;
+    TextSpool& operator=(const TextSpool&) = delete;
+    void beginPage() override;
+    void line(const core::PrintLine& l) override;
+    // Hands the text out in pieces.
+    void copy(const std::function<void(std::string_view)>& out);
+
+private:
+    std::FILE* file_;
+    bool first_ = true;
+};
 
 // Boxes go to standard error as "[title] text"; questions are answered by --yes / --no, or on
 // a terminal by the operator; otherwise the command stops naming the question.
@@ -27,7 +48,10 @@ public:
     // folder is asked as any input.
     std::optional<std::string> folder;
     std::optional<std::string> folderBox(const std::string& title, const std::string& start) override;
-    core::TextPrinter paper;
+    // The pages go to `text`, or with --pdf to `pdf`, as they are printed.
+    TextSpool text;
+    std::unique_ptr<printing::Spool> pdf;
+    core::StreamPrinter paper{&text};
     core::Printer& printer() override { return paper; }
 };
 
@@ -53,6 +77,11 @@ struct Context {
     // lock of the data folder and the payer here and holds it to its end: core::Busy when
     // another program holds it (exit status 1), or it waits with --wait.
     void openSession();
+    // Opens the session (openSession) and the list `stem` as the choice of a list opens it:
+    // its name, group, number and reserve from instal.dat, the paths of its pay and personnel
+    // files. A list instal.dat does not hold is refused when `mustExist`; otherwise it is opened
+    // by its file name alone, which must be a valid one.
+    void openList(const std::string& stem, bool mustExist);
     std::optional<core::WriterLock> lock;
     // Takes --out FILE or --pdf FILE from the command's arguments (to be called before the
     // arguments are read), and after the printing writes the pages there, or to standard

@@ -11,31 +11,16 @@
 #include "paycalc/kartoteka.h"
 #include "paycalc/zerowanie.h"
 #include "personnel/person_record.h"
-#include "reference/catalogue.h"
 
 namespace {
 
-// Opens the list LISTA (its file name) as the choice of a list opens it, with the count of the
-// people of its personnel file as the list screen leaves it.
+// Opens the list LISTA (its file name), with the count of the people of its personnel file as
+// the list screen leaves it.
 void otworzListe(cli::Context& c, const std::string& polecenie, std::size_t argumenty) {
     if (c.args.size() < argumenty || c.args.size() > argumenty + (polecenie == "base" ? 1 : 0))
         throw cli::Usage(polecenie + ": zła liczba argumentów");
-    const std::string& lista = c.args[0];
-    if (!reference::badListStem(lista).empty()) throw cli::Usage("zła nazwa listy: " + lista);
-    c.openSession();
+    c.openList(c.args[0], false);
     core::Session& s = c.session;
-    s.NazwaZbioru = lista;
-    std::vector<core::Record> lines = reference::Instal::read(s);
-    int i = reference::Instal::findByStem(lines, lista);
-    if (i >= 0) {
-        const core::Record& l = lines[static_cast<std::size_t>(i)];
-        s.NazwaListy = l.s(reference::Instal::NazwaListy);
-        s.Grupa = l.s(reference::Instal::Grupa);
-        s.NumerListy = l.s(reference::Instal::NumerListy);
-        s.Rezerwa4 = l.s(reference::Instal::Rezerwa4);
-    }
-    s.SciezkaBazy = s.payerPath({"bazy", lista + ".dta"});
-    s.SciezkaOsob = s.payerPath({"person", lista + ".per"});
     if (core::fileExists(s.SciezkaOsob)) s.LiczbaOsob = static_cast<int>(personnel::Osoba::readAll(s.SciezkaOsob).size());
 }
 

@@ -6,33 +6,14 @@
 #include "printing/lista_plac.h"
 #include "printing/specyfikacja.h"
 #include "printing/sumy_record.h"
-#include "reference/catalogue.h"
 
 namespace {
 
-// Opens the list as frmwybor opens it, and takes the persons of its ledger as the list's count
-// (as cmdKartoteka leaves it).
+// Opens the list as frmwybor opens it.
 void otworzListe(cli::Context& c, const std::string& polecenie) {
     c.takePrintOptions();
     if (c.args.size() != 1) throw cli::Usage(polecenie + " wymaga nazwy listy (pliku listy, np. a)");
-    c.openSession();
-    core::Session& s = c.session;
-    std::vector<core::Record> lines = reference::Instal::read(s);
-    int i = reference::Instal::findByStem(lines, c.args[0]);
-    if (i < 0) throw cli::Usage("płatnik " + s.SkrotPlatnika + " nie ma listy " + c.args[0] + " w instal.dat");
-    const core::Record& l = lines[static_cast<std::size_t>(i)];
-    s.NazwaListy = l.s(reference::Instal::NazwaListy);
-    s.NazwaZbioru = reference::Instal::stem(l);
-    s.Grupa = l.s(reference::Instal::Grupa);
-    s.NumerListy = l.s(reference::Instal::NumerListy);
-    s.Rezerwa4 = l.s(reference::Instal::Rezerwa4);
-    s.SciezkaBazy = s.payerPath({"bazy", s.NazwaZbioru + ".dta"});
-    s.SciezkaOsob = s.payerPath({"person", s.NazwaZbioru + ".per"});
-    try {
-        s.LiczbaOsob = static_cast<int>(paycalc::Karta::readAll(paycalc::Karta::path(s)).size());
-    } catch (const core::Error&) {
-        s.LiczbaOsob = 0;  // the print itself reports the missing ledger
-    }
+    c.openList(c.args[0], true);
 }
 
 // The pages go out only when the command ended without an error box.
@@ -48,6 +29,9 @@ cli::Register lista("print-list", {std::string("print-list") + kOpcje,
                                    "lista płac miesiąca z kartoteki (pytanie o drukarkę: --yes); zapisuje SUMY\\S<lista><RRmm>.sum",
                                    [](cli::Context& c) {
                                        otworzListe(c, "print-list");
+                                       // The people of the ledger are the list's count (as cmdKartoteka
+                                       // leaves it): the heads of its pages give the number of pages.
+                                       c.session.LiczbaOsob = paycalc::Karta::liczbaOsob(paycalc::Karta::path(c.session));
                                        std::optional<core::Record> sumy;
                                        printing::cmdDrukListy(c.session, c.dialogs, &sumy);
                                        // The sums say the list was printed: written once the pages are out.

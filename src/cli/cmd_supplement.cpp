@@ -8,7 +8,6 @@
 #include "core/paths.h"
 #include "paycalc/dodatkowe.h"
 #include "paycalc/lista.h"
-#include "reference/catalogue.h"
 
 namespace {
 
@@ -19,22 +18,6 @@ int zakladka(const std::string& rodzaj) {
     for (int t = 1; t <= 5; ++t)
         if (rodzaj == kRodzaje[t - 1]) return t;
     throw cli::Usage("nieznany rodzaj: " + rodzaj + " (overtime, additions, thirteenth, jubilee, holiday)");
-}
-
-// Opens the list LISTA (its file name) as the choice of a list opens it.
-void otworzListe(cli::Context& c, const std::string& lista) {
-    c.openSession();
-    core::Session& s = c.session;
-    std::vector<core::Record> lines = reference::Instal::read(s);
-    int i = reference::Instal::findByStem(lines, lista);
-    if (i < 0) throw cli::Usage("płatnik " + s.SkrotPlatnika + " nie ma listy " + lista + " w instal.dat");
-    const core::Record& l = lines[static_cast<std::size_t>(i)];
-    s.NazwaListy = l.s(reference::Instal::NazwaListy);
-    s.NazwaZbioru = reference::Instal::stem(l);
-    s.Grupa = l.s(reference::Instal::Grupa);
-    s.NumerListy = l.s(reference::Instal::NumerListy);
-    s.SciezkaBazy = s.payerPath({"bazy", s.NazwaZbioru + ".dta"});
-    s.SciezkaOsob = s.payerPath({"person", s.NazwaZbioru + ".per"});
 }
 
 // A box of the tab takes a value as the operator would give it: text typed, a switch ticked,
@@ -65,7 +48,7 @@ void ustaw(paycalc::ListaScreen& f, const std::string& para) {
 int wylicz(cli::Context& c) {
     if (c.args.size() < 3) throw cli::Usage("supplement RODZAJ LISTA IDENTYFIKATOR [POLE=WARTOŚĆ ...]");
     const int tab = zakladka(c.args[0]);
-    otworzListe(c, c.args[1]);
+    c.openList(c.args[1], true);
     core::Session& s = c.session;
     paycalc::ListaScreen f(c.dialogs, s);
     f.Load();
@@ -95,7 +78,7 @@ int wylicz(cli::Context& c) {
 int usun(cli::Context& c) {
     if (c.args.size() != 2) throw cli::Usage("supplement-delete RODZAJ LISTA");
     const int tab = zakladka(c.args[0]);
-    otworzListe(c, c.args[1]);
+    c.openList(c.args[1], true);
     return paycalc::usunDodatki(c.session, c.dialogs, paycalc::ListaScreen::rodzajZakladki(tab)) ? 0 : 1;
 }
 
@@ -103,7 +86,7 @@ int drukuj(cli::Context& c) {
     c.takePrintOptions();
     if (c.args.size() != 2) throw cli::Usage("supplement-print RODZAJ LISTA [--out PLIK | --pdf PLIK]");
     const int tab = zakladka(c.args[0]);
-    otworzListe(c, c.args[1]);
+    c.openList(c.args[1], true);
     if (!paycalc::drukujDodatki(c.session, c.dialogs, paycalc::ListaScreen::rodzajZakladki(tab))) return 1;
     c.emitPrint();
     return 0;

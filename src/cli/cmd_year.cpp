@@ -10,7 +10,6 @@
 #include "core/text.h"
 #include "paycalc/karta_record.h"
 #include "personnel/person_record.h"
-#include "reference/catalogue.h"
 #include "reference/rates.h"
 #include "yearledger/druk_roku.h"
 #include "yearledger/rok.h"
@@ -20,20 +19,8 @@ namespace {
 // The list LISTA opened as the choice of a list opens it and the person KLUCZ chosen on it
 // (the name and code from the personnel file, or from a ledger of the year).
 void otworzOsobe(cli::Context& c, const std::string& lista, const std::string& klucz) {
-    if (!reference::badListStem(lista).empty()) throw cli::Usage("zła nazwa listy: " + lista);
-    c.openSession();
+    c.openList(lista, false);
     core::Session& s = c.session;
-    s.NazwaZbioru = lista;
-    std::vector<core::Record> lines = reference::Instal::read(s);
-    int i = reference::Instal::findByStem(lines, lista);
-    if (i >= 0) {
-        const core::Record& l = lines[static_cast<std::size_t>(i)];
-        s.NazwaListy = l.s(reference::Instal::NazwaListy);
-        s.Grupa = l.s(reference::Instal::Grupa);
-        s.NumerListy = l.s(reference::Instal::NumerListy);
-    }
-    s.SciezkaBazy = s.payerPath({"bazy", lista + ".dta"});
-    s.SciezkaOsob = s.payerPath({"person", lista + ".per"});
     s.KluczOsoby = klucz;
     if (core::fileExists(s.SciezkaOsob))
         if (auto o = personnel::znajdzOsobe(personnel::Osoba::readAll(s.SciezkaOsob), klucz)) {

@@ -8,6 +8,7 @@
 #include "core/form.h"
 #include "core/paths.h"
 #include "core/text.h"
+#include "reference/catalogue.h"
 #include "reference/payers.h"
 #include "reference/rates.h"
 
@@ -80,6 +81,25 @@ void Context::openSession() {
     session.OkresListy = core::Mid(session.DataListy, 4, 2) + core::Right(session.DataListy, 2);
     reference::selectPayer(session);
     reference::loadRates(session);
+}
+
+void Context::openList(const std::string& stem, bool mustExist) {
+    if (!mustExist && !reference::badListStem(stem).empty()) throw Usage("zła nazwa listy: " + stem);
+    openSession();
+    core::Session& s = session;
+    std::vector<core::Record> lines = reference::Instal::read(s);
+    const int i = reference::Instal::findByStem(lines, stem);
+    if (i < 0 && mustExist) throw Usage("płatnik " + s.SkrotPlatnika + " nie ma listy " + stem + " w instal.dat");
+    s.NazwaZbioru = stem;
+    if (i >= 0) {
+        const core::Record& l = lines[static_cast<std::size_t>(i)];
+        s.NazwaListy = l.s(reference::Instal::NazwaListy);
+        s.Grupa = l.s(reference::Instal::Grupa);
+        s.NumerListy = l.s(reference::Instal::NumerListy);
+        s.Rezerwa4 = l.s(reference::Instal::Rezerwa4);
+    }
+    s.SciezkaBazy = s.payerPath({"bazy", stem + ".dta"});
+    s.SciezkaOsob = s.payerPath({"person", stem + ".per"});
 }
 
 }  // namespace cli

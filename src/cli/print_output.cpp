@@ -1,11 +1,34 @@
-#include <fstream>
 #include <iostream>
 
 #include "cli/cli.h"
-#include "core/seqfile.h"
+#include "core/commitstream.h"
+#include "core/error.h"
 #include "printing/pdf.h"
 
 namespace cli {
+
+TextSpool::TextSpool() : file_(std::tmpfile()) {
+    if (!file_) throw core::Error(core::err::PathFileAccess, "wydruk", "nie można utworzyć pliku tymczasowego wydruku");
+}
+
+TextSpool::~TextSpool() { std::fclose(file_); }
+
+void TextSpool::beginPage() {
+    if (!first_) std::fputc('\f', file_);
+    first_ = false;
+}
+
+void TextSpool::line(const core::PrintLine& l) {
+    if (std::fwrite(l.text.data(), 1, l.text.size(), file_) != l.text.size() || std::fputc('\n', file_) == EOF)
+        throw core::Error(core::err::PathFileAccess, "wydruk", "błąd zapisu pliku tymczasowego wydruku");
+}
+
+void TextSpool::copy(const std::function<void(std::string_view)>& out) {
+    if (std::fflush(file_) != 0 || std::fseek(file_, 0, SEEK_SET) != 0)
+        throw core::Error(core::err::PathFileAccess, "wydruk", "błąd odczytu pliku tymczasowego wydruku");
+    char buf[1 << 16];
+    for (std::size_t n; (n = std::fread(buf, 1, sizeof buf, file_)) > 0;) out(std::string_view(buf, n));
+}
 
 void Context::takePrintOptions() {
     std::vector<std::string> rest;
@@ -20,15 +43,23 @@ void Context::takePrintOptions() {
     }
     if (!outFile.empty() && !pdfFile.empty()) throw Usage("podaj --out albo --pdf, nie oba");
     args = rest;
+    if (!pdfFile.empty()) {
+        dialogs.pdf = std::make_unique<printing::Spool>();
+        dialogs.paper.setSink(dialogs.pdf.get());
+    }
 }
 
 void Context::emitPrint() {
+    dialogs.paper.finish();
     if (!pdfFile.empty()) {
-        printing::writePdf(dialogs.paper.pages(), pdfFile);
+        printing::writePdf(*dialogs.pdf, pdfFile);
     } else if (!outFile.empty()) {
-        core::commitBytes(outFile, dialogs.paper.text());
+        core::CommitStream out(outFile);
+        dialogs.text.copy([&](std::string_view s) { out.write(s); });
+        out.commit();
     } else {
-        std::cout << dialogs.paper.text();
+        dialogs.text.copy([](std::string_view s) { std::cout.write(s.data(), static_cast<std::streamsize>(s.size())); });
+        std::cout.flush();
     }
 }
 

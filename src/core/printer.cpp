@@ -2,46 +2,72 @@
 
 namespace core {
 
-void TextPrinter::setFont(const std::string& name, double size, bool bold) {
+void StreamPrinter::setFont(const std::string& name, double size, bool bold) {
     font_ = name;
     size_ = size;
     bold_ = bold;
 }
 
-void TextPrinter::print(const std::string& text, bool newLine) {
+void StreamPrinter::print(const std::string& text, bool newLine) {
     pending_ += text;
     pendingOpen_ = true;
     if (newLine) flushLine();
 }
 
-void TextPrinter::flushLine() {
-    if (current_.empty()) current_.emplace_back();
-    current_.back().push_back({pending_, bold_, size_, font_});
+void StreamPrinter::startPage() {
+    sink_->beginPage();
+    ++docPages_;
+    anyPage_ = true;
+}
+
+void StreamPrinter::flushLine() {
+    if (docPages_ == 0 || feed_) startPage();
+    feed_ = false;
+    sink_->line(openLine());
     pending_.clear();
     pendingOpen_ = false;
 }
 
-void TextPrinter::newPage() {
+void StreamPrinter::newPage() {
     if (pendingOpen_) flushLine();
-    if (current_.empty()) current_.emplace_back();
-    current_.emplace_back();
+    if (docPages_ == 0 || feed_) startPage();
+    feed_ = true;
 }
 
-void TextPrinter::endDoc() {
+void StreamPrinter::endDoc() {
     if (pendingOpen_) flushLine();
     // A page feed with nothing printed after it gives no sheet.
-    if (current_.size() > 1 && current_.back().empty()) current_.pop_back();
-    if (!current_.empty()) docs_.push_back(std::move(current_));
-    current_.clear();
+    feed_ = false;
+    if (docPages_ > 0) sink_->endDoc();
+    docPages_ = 0;
+}
+
+void StreamPrinter::finish() {
+    if (pendingOpen_ && docPages_ == 0 && anyPage_) {
+        // A line begun after the end of a document stays on the last sheet.
+        sink_->line(openLine());
+        pending_.clear();
+        pendingOpen_ = false;
+        return;
+    }
+    if (pendingOpen_) flushLine();
+    else if (feed_) startPage();
+    feed_ = false;
+}
+
+void TextPrinter::Kept::endDoc() {
+    docs.push_back(std::move(current));
+    current.clear();
 }
 
 std::vector<TextPrinter::Page> TextPrinter::pages() const {
     std::vector<Page> all;
-    for (const auto& d : docs_) all.insert(all.end(), d.begin(), d.end());
-    all.insert(all.end(), current_.begin(), current_.end());
-    if (pendingOpen_) {
+    for (const auto& d : kept_.docs) all.insert(all.end(), d.begin(), d.end());
+    all.insert(all.end(), kept_.current.begin(), kept_.current.end());
+    if (feedPending()) all.emplace_back();
+    if (lineOpen()) {
         if (all.empty()) all.emplace_back();
-        all.back().push_back({pending_, bold_, size_, font_});
+        all.back().push_back(openLine());
     }
     return all;
 }

@@ -14,19 +14,20 @@
 
 namespace gui {
 
-void renderPages(QPagedPaintDevice& device, const std::vector<core::TextPrinter::Page>& pages) {
-    printing::Sheet sheet = printing::fitSheet(pages);
+void renderPages(QPagedPaintDevice& device, const printing::Spool& pages) {
+    const printing::Sheet sheet = pages.sheet();
     device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4),
                                      sheet.landscape ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
-    QPainter p(&device);
     // Positions are worked out in points from the top left corner of the sheet.
-    const double kx = device.logicalDpiX() / 72.0, ky = device.logicalDpiY() / 72.0;
-    bool first = true;
-    for (const auto& page : pages) {
-        if (!first) device.newPage();
-        first = false;
-        double y = sheet.margin;
-        for (const auto& line : page) {
+    struct Rysunek : core::PageSink {
+        Rysunek(QPagedPaintDevice& d, const printing::Sheet& s)
+            : device(d), p(&d), sheet(s), kx(d.logicalDpiX() / 72.0), ky(d.logicalDpiY() / 72.0) {}
+        void beginPage() override {
+            if (!first) device.newPage();
+            first = false;
+            y = sheet.margin;
+        }
+        void line(const core::PrintLine& line) override {
             double size = line.size * sheet.scale;
             QFont f(q(line.font));
             f.setStyleHint(QFont::Monospace);
@@ -37,10 +38,16 @@ void renderPages(QPagedPaintDevice& device, const std::vector<core::TextPrinter:
             y += size * printing::kLineHeight;
             p.drawText(QPointF(sheet.margin * kx, (y - size * 0.25) * ky), q(line.text));
         }
-    }
+        QPagedPaintDevice& device;
+        QPainter p;
+        const printing::Sheet& sheet;
+        double kx, ky, y = 0;
+        bool first = true;
+    } rysunek(device, sheet);
+    pages.replay(rysunek);
 }
 
-bool savePdf(const std::vector<core::TextPrinter::Page>& pages, const QString& file) {
+bool savePdf(const printing::Spool& pages, const QString& file) {
     QPdfWriter w(file);
     w.setResolution(600);
     w.setCreator("pensja");
@@ -48,10 +55,18 @@ bool savePdf(const std::vector<core::TextPrinter::Page>& pages, const QString& f
     return QFile::exists(file);
 }
 
+void QtPrinter::Document::beginPage() {
+    // The first page of a new document: the last one is no longer kept.
+    if (ended) spool.clear();
+    ended = false;
+    spool.beginPage();
+}
+
 void QtPrinter::endDoc() {
-    TextPrinter::endDoc();
-    if (!preview || documents().empty()) return;
-    const auto pages = documents().back();
+    const int skonczone = doc_.finished;
+    StreamPrinter::endDoc();
+    if (!preview || doc_.finished == skonczone) return;  // nothing printed
+    const printing::Spool& pages = document();
     QPrinter printer(QPrinter::HighResolution);
     QPrintPreviewDialog dlg(&printer, parent_);
     dlg.setWindowTitle("Podgląd wydruku");

@@ -1,5 +1,8 @@
 #include "paycalc/karta_record.h"
 
+#include <algorithm>
+#include <fstream>
+
 #include "core/paths.h"
 
 using core::FieldType;
@@ -199,6 +202,21 @@ std::filesystem::path path(const core::Session& s, const std::string& list, cons
 std::filesystem::path path(const core::Session& s) { return path(s, s.NazwaZbioru, s.RRmm()); }
 
 std::vector<core::Record> readAll(const std::filesystem::path& file) { return core::readAll(file, kSchema); }
+
+int liczbaOsob(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) return 0;
+    long long linie = 0;
+    char ostatni = '\n';
+    char buf[1 << 16];
+    while (in.read(buf, sizeof buf) || in.gcount() > 0) {
+        const std::streamsize n = in.gcount();
+        linie += std::count(buf, buf + n, '\n');
+        ostatni = buf[n - 1];
+    }
+    if (ostatni != '\n') ++linie;  // the last line without its end
+    return static_cast<int>(linie / Count);
+}
 
 }  // namespace Karta
 

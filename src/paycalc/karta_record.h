@@ -42,6 +42,9 @@ const core::Schema& schema();
 std::filesystem::path path(const core::Session& s);
 std::filesystem::path path(const core::Session& s, const std::string& list, const std::string& RRmm);
 std::vector<core::Record> readAll(const std::filesystem::path& file);
+// The number of people in a ledger, told by its lines (a record is one line a field) without
+// reading the records: 0 for a missing file.
+int liczbaOsob(const std::filesystem::path& file);
 }  // namespace Karta
 
 }  // namespace paycalc

@@ -17,7 +17,7 @@ using core::Mid;
 using core::PadRight;
 using core::Right;
 using core::Space;
-namespace Karta = paycalc::Karta;
+namespace K = paycalc::Karta;
 
 namespace printing {
 
@@ -99,29 +99,31 @@ std::string komorka(float v, int width) { return v == 0 ? kreska(width) : kwota(
 OsobaNaLiscie wyliczOsobe(const core::Record& r, const core::Stawki& st) {
     OsobaNaLiscie o;
     auto& v = o.v;
-    for (int n = 1; n <= Karta::Count; ++n) {
+    for (int n = 1; n <= K::Count; ++n) {
         auto t = r.schema().fields[n - 1].type;
         if (t != core::FieldType::String && t != core::FieldType::Line) v[n] = liczba(r, n);
     }
-    o.Nazwisko = r.s(Karta::Nazwisko);
-    o.Imie = r.s(Karta::Imie);
-    o.Etat = r.s(Karta::Etat);
-    o.NumerKonta = r.s(Karta::NumerKonta);
-    o.Grupa = r.s(Karta::Grupa);
+    o.Nazwisko = r.s(K::Nazwisko);
+    o.Imie = r.s(K::Imie);
+    o.Etat = r.s(K::Etat);
+    o.NumerKonta = r.s(K::NumerKonta);
+    o.Grupa = r.s(K::Grupa);
 
-    o.RazemPot = suma({v[38], v[41], v[42], v[44], v[45], v[46], v[47], v[50], v[48], v[146], v[134], v[132], v[131],
-                       v[101], v[107]});
-    o.Zasilki = suma({v[56], v[54], v[53]});
-    v[135] = core::Round2(static_cast<double>(v[135]));
-    o.PoPotraceniach = static_cast<float>(static_cast<double>(v[135]) - o.RazemPot);
+    o.RazemPot = suma({v[K::ZFMRata], v[K::KZPRata], v[K::KZPSkladka], v[K::PotraceniaInne], v[K::ZwiazekZawodowy],
+                       v[K::Solidarnosc], v[K::PZU], v[K::Potracenie1], v[K::Potracenie2],
+                       v[K::SkladkaZdrowotnaOdliczana], v[K::PodatekNetto], v[K::SkladkaZdrowotnaPozostala],
+                       v[K::SkladkaChorobowa], v[K::SkladkaRentowa], v[K::SkladkaEmerytalna]});
+    o.Zasilki = suma({v[K::ZasilekZUS], v[K::ZasilekRodzinny], v[K::ZasilekPielegnacyjny]});
+    v[K::Brutto] = core::Round2(static_cast<double>(v[K::Brutto]));
+    o.PoPotraceniach = static_cast<float>(static_cast<double>(v[K::Brutto]) - o.RazemPot);
     o.Netto = static_cast<float>(static_cast<double>(o.PoPotraceniach) + o.Zasilki);
-    double naReke = static_cast<double>(o.Netto) - v[49];
-    if (v[27] > naReke) v[27] = static_cast<float>(naReke);
+    double naReke = static_cast<double>(o.Netto) - v[K::Potracenie3];
+    if (v[K::NaROR] > naReke) v[K::NaROR] = static_cast<float>(naReke);
 
     // The four sick lines: days of code 331 and of the other codes, each with the code of the
     // last line that had days. The fourth line takes a code 331 without its days.
-    const int dniLinii[4] = {Karta::LiczbaDni1, Karta::LiczbaDni2, Karta::LiczbaDni3, Karta::LiczbaDni4};
-    const int kodLinii[4] = {Karta::KodPrzerwy1, Karta::KodPrzerwy2, Karta::KodPrzerwy3, Karta::KodPrzerwy4};
+    const int dniLinii[4] = {K::LiczbaDni1, K::LiczbaDni2, K::LiczbaDni3, K::LiczbaDni4};
+    const int kodLinii[4] = {K::KodPrzerwy1, K::KodPrzerwy2, K::KodPrzerwy3, K::KodPrzerwy4};
     for (int i = 0; i < 4; ++i) {
         float d = v[dniLinii[i]];
         if (!(d > 0)) continue;
@@ -135,28 +137,29 @@ OsobaNaLiscie wyliczOsobe(const core::Record& r, const core::Stawki& st) {
             o.DniInneKody = i == 0 ? d : suma({o.DniInneKody, d});
         }
     }
-    o.DniNieobecnosci = static_cast<float>(core::Val(r.s(112)) + core::Val(r.s(102)) + core::Val(r.s(108)));
-    o.RazemSkl = suma({v[107], v[101], v[131]});
-    if (v[Karta::CheckWypadkowa] == 1) o.Wypadkowa = core::Round2(static_cast<double>(v[140]) * st.wypadkowa);
-    if (v[Karta::EFPomostowy] == 1) o.PodstawaPomostowa = v[140];
-    v[175] = core::Round2(static_cast<double>(v[117]) * v[116]);
+    o.DniNieobecnosci = static_cast<float>(core::Val(r.s(K::Rezerwa112)) + core::Val(r.s(K::Rezerwa102)) +
+                                           core::Val(r.s(K::Rezerwa108)));
+    o.RazemSkl = suma({v[K::SkladkaEmerytalna], v[K::SkladkaRentowa], v[K::SkladkaChorobowa]});
+    if (v[K::CheckWypadkowa] == 1) o.Wypadkowa = core::Round2(static_cast<double>(v[K::PodstawaZUS]) * st.wypadkowa);
+    if (v[K::EFPomostowy] == 1) o.PodstawaPomostowa = v[K::PodstawaZUS];
+    v[K::Urlopowe] = core::Round2(static_cast<double>(v[K::StawkaUrlopowa]) * v[K::DniUrlopu]);
 
-    double zasilkiZUS = static_cast<double>(v[176]) + v[148];
+    double zasilkiZUS = static_cast<double>(v[K::ChoroboweWypadkowe]) + v[K::ChoroboweZUS];
     if (zasilkiZUS > 0) {
         float niedobor = o.Netto < 0 ? -o.Netto : 0.0f;
         float w = core::RoundZl(zasilkiZUS);
-        float t = core::RoundZl(static_cast<double>(v[35]) * w);
-        t = static_cast<float>(static_cast<double>(t) - v[173]);
+        float t = core::RoundZl(static_cast<double>(v[K::StawkaPodatku]) * w);
+        t = static_cast<float>(static_cast<double>(t) - v[K::UlgaNiewykorzystana]);
         float c = static_cast<float>(zasilkiZUS - niedobor - t);
-        if (!core::Trim(o.NumerKonta).empty() && v[27] > 0) {
-            v[43] = c;
+        if (!core::Trim(o.NumerKonta).empty() && v[K::NaROR] > 0) {
+            v[K::ZasilkiDoROR] = c;
             c = 0;
         }
         o.PodatekOdZasilkow = t;
         o.ZasilkiGotowka = c;
-        v[170] = niedobor;
-        v[171] = c;
-        v[172] = t;
+        v[K::Niedobor] = niedobor;
+        v[K::ZasilkiDoKasy] = c;
+        v[K::PodatekOdZasilkow] = t;
     }
 
     // The job share "nnnddd" (or "n/d"): numerator over denominator.
@@ -230,47 +233,56 @@ void DrukListy::wierszeOsoby(const OsobaNaLiscie& o, int n) {
     const bool paski = s.TrybDruku == 1;
     const std::string pusta = "|                       |";
     // Row A.
-    print(" |" + o.KodLinii1 + dni(o.DniInneKody) + komorka(suma({v[176], v[148]}), 8) + komorka(v[6], 9) +
-          komorka(v[8], 8) + komorka(v[15], 7) + komorka(v[136], 9) + komorka(v[107], 8) + komorka(v[41], 8) +
-          komorka(v[50], 7) + komorka(v[89], 8) + komorka(o.PoPotraceniach, 9) + komorka(o.Netto, 10) + "|" +
-          core::PadLeft(core::Format(static_cast<double>(n), "####"), 3) + "." + PadRight(o.Imie, 19) + "|");
+    print(" |" + o.KodLinii1 + dni(o.DniInneKody) + komorka(suma({v[K::ChoroboweWypadkowe], v[K::ChoroboweZUS]}), 8) +
+          komorka(v[K::Zasadnicza], 9) + komorka(v[K::Stazowy], 8) + komorka(v[K::Wychowawczy], 7) +
+          komorka(v[K::PodstawaPodatku], 9) + komorka(v[K::SkladkaEmerytalna], 8) + komorka(v[K::KZPRata], 8) +
+          komorka(v[K::Potracenie1], 7) + komorka(v[K::Podatek], 8) + komorka(o.PoPotraceniach, 9) +
+          komorka(o.Netto, 10) + "|" + core::PadLeft(core::Format(static_cast<double>(n), "####"), 3) + "." +
+          PadRight(o.Imie, 19) + "|");
     // Row B.
-    print(" |" + o.KodLinii2 + dni(o.DniKod331) + komorka(v[151], 8) + komorka(v[7], 9) + komorka(v[13], 8) +
-          komorka(v[16], 7) + komorka(v[138], 9) + komorka(v[101], 8) + komorka(v[42], 8) + komorka(v[48], 7) +
-          komorka(v[132], 8) + komorka(v[53], 9) + komorka(v[49], 10) + "| " + PadRight(o.Nazwisko, 22) + "|");
+    print(" |" + o.KodLinii2 + dni(o.DniKod331) + komorka(v[K::ChorobowePracodawca], 8) + komorka(v[K::Funkcyjny], 9) +
+          komorka(v[K::Wiejski], 8) + komorka(v[K::Trudnosciowy], 7) + komorka(v[K::PodstawaZdrowotna], 9) +
+          komorka(v[K::SkladkaRentowa], 8) + komorka(v[K::KZPSkladka], 8) + komorka(v[K::Potracenie2], 7) +
+          komorka(v[K::SkladkaZdrowotnaPozostala], 8) + komorka(v[K::ZasilekPielegnacyjny], 9) +
+          komorka(v[K::Potracenie3], 10) + "| " + PadRight(o.Nazwisko, 22) + "|");
     // Row C.
-    std::string c = " |   " + dni(v[116]) + komorka(v[175], 8) + komorka(v[11], 9) + komorka(suma({v[10], v[14]}), 8) +
-                    komorka(v[32], 7) + komorka(v[140], 9) + komorka(v[131], 8) + komorka(v[38], 8) +
-                    komorka(v[44], 7) + komorka(v[146], 8) + komorka(v[54], 9) + komorka(v[27], 10);
+    std::string c = " |   " + dni(v[K::DniUrlopu]) + komorka(v[K::Urlopowe], 8) + komorka(v[K::Inny], 9) +
+                    komorka(suma({v[K::Specjalny], v[K::Specjalistyczny]}), 8) + komorka(v[K::Mieszkaniowy], 7) +
+                    komorka(v[K::PodstawaZUS], 9) + komorka(v[K::SkladkaChorobowa], 8) + komorka(v[K::ZFMRata], 8) +
+                    komorka(v[K::PotraceniaInne], 7) + komorka(v[K::SkladkaZdrowotnaOdliczana], 8) +
+                    komorka(v[K::ZasilekRodzinny], 9) + komorka(v[K::NaROR], 10);
     if (paski) {
-        c += v[39] != 0 ? "| " + kw(v[39], 10) : "|      -    ";
-        c += v[40] != 0 ? "| " + kw(v[40], 10) + "|" : "|     -     |";
+        c += v[K::KZPWklady] != 0 ? "| " + kw(v[K::KZPWklady], 10) : "|      -    ";
+        c += v[K::KZPPozyczka] != 0 ? "| " + kw(v[K::KZPPozyczka], 10) + "|" : "|     -     |";
     } else {
         c += pusta;
     }
     print(c);
     // Row D.
-    std::string d = " |   " + dni(o.DniNieobecnosci) + komorka(v[117], 8) + komorka(v[9], 9) + komorka(v[12], 8) +
-                    komorka(v[17], 7) + komorka(v[135], 9) + komorka(o.RazemSkl, 8) + komorka(v[47], 8) + kreska(7) +
-                    komorka(v[134], 8) + komorka(v[56], 9) + komorka(v[149], 10);
+    std::string d = " |   " + dni(o.DniNieobecnosci) + komorka(v[K::StawkaUrlopowa], 8) + komorka(v[K::Premia], 9) +
+                    komorka(v[K::Motywacyjny], 8) + komorka(v[K::Ekwiwalent], 7) + komorka(v[K::Brutto], 9) +
+                    komorka(o.RazemSkl, 8) + komorka(v[K::PZU], 8) + kreska(7) + komorka(v[K::PodatekNetto], 8) +
+                    komorka(v[K::ZasilekZUS], 9) + komorka(v[K::DoWyplaty], 10);
     if (paski) {
-        d += v[37] != 0 ? "| " + kw(v[37], 10) : "|      -    ";
+        d += v[K::ZFMPozyczka] != 0 ? "| " + kw(v[K::ZFMPozyczka], 10) : "|      -    ";
         d += "| " + s.DataListy + "|";
     } else {
         d += pusta;
     }
     print(d);
     // Row E.
-    bool bezDni = v[116] == 0 && o.DniKod331 == 0 && o.DniInneKody == 0;
-    std::string e = " |" + Left(o.Etat, 3) + Right(o.Etat, 3) + "|" + (bezDni ? Space(8) : kw(v[128], 8)) +
-                    komorka(v[19], 9) + komorka(v[20], 8) + komorka(v[18], 7) + komorka(v[174], 9) + komorka(v[30], 8) +
-                    komorka(v[45], 8) + komorka(v[46], 7) + komorka(o.RazemPot, 8);
+    bool bezDni = v[K::DniUrlopu] == 0 && o.DniKod331 == 0 && o.DniInneKody == 0;
+    std::string e = " |" + Left(o.Etat, 3) + Right(o.Etat, 3) + "|" +
+                    (bezDni ? Space(8) : kw(v[K::SredniaChorobowa], 8)) + komorka(v[K::Wyrownania], 9) +
+                    komorka(v[K::Szkodliwy], 8) + komorka(v[K::Nocny], 7) + komorka(v[K::UlgaZastosowana], 9) +
+                    komorka(v[K::KosztyUzyskania], 8) + komorka(v[K::ZwiazekZawodowy], 8) +
+                    komorka(v[K::Solidarnosc], 7) + komorka(o.RazemPot, 8);
     if (paski) {
-        e += komorka(v[37], 9) + komorka(v[107], 10);
-        e += v[167] != 0 ? "| " + kw(v[167], 10) : "|       -   ";
+        e += komorka(v[K::ZFMPozyczka], 9) + komorka(v[K::SkladkaEmerytalna], 10);
+        e += v[K::SkladkaRentowaPracodawcy] != 0 ? "| " + kw(v[K::SkladkaRentowaPracodawcy], 10) : "|       -   ";
         // A payslip without an accident amount leaves its line open: the rule below runs on.
-        if (v[95] != 0)
-            print(e + "| " + kw(v[95], 10) + "|");
+        if (v[K::SkladkaWypadkowa] != 0)
+            print(e + "| " + kw(v[K::SkladkaWypadkowa], 10) + "|");
         else
             print(e + "|       -   ", false);
     } else {
@@ -288,9 +300,10 @@ bool DrukListy::modDrukujListe(bool zapiszSumy) {
             NaglowekListy();
         s.Strona = 1;
         drukarka().setBold(true);
-        std::vector<core::Record> karta;
+        // The ledger is read person by person as the list goes.
+        std::optional<core::SeqReader> karta;
         try {
-            karta = Karta::readAll(Karta::path(s));
+            karta.emplace(K::path(s));
         } catch (const core::Error& e) {
             if (e.Number != core::err::FileNotFound && e.Number != core::err::PathNotFound) throw;
             ui.msgBox(kBrakKartoteki, Buttons::OK, Icon::Exclamation);
@@ -303,7 +316,8 @@ bool DrukListy::modDrukujListe(bool zapiszSumy) {
         std::string grupa;
         const int koniec = s.LiczbaOsob + 1;
         int n = 0;
-        for (const core::Record& rec : karta) {
+        while (!karta->eof()) {
+            const core::Record rec = core::readRecord(*karta, K::schema());
             ++n;
             if (postep) postep(std::min(n, koniec), koniec);
             OsobaNaLiscie o = wyliczOsobe(rec, s.stawki);
@@ -323,65 +337,65 @@ bool DrukListy::modDrukujListe(bool zapiszSumy) {
 
             using namespace Sumy;
             t[LiczbaOsob] = n;
-            t[Zasadnicza] += v[6];
-            t[Stazowy] += v[8];
-            t[Nadlicz] += v[15];
-            t[Trudnosciowy] += v[16];
-            t[PodstawaPodatku] += v[136];
-            t[KZPRata] += v[41];
-            t[PZU] += v[47];
-            t[PotraceniaInne] += v[44];
-            t[PodatekNetto] += v[134];
-            t[Podatek] += v[89];
-            t[SkladkaZdrowotnaPozostala] += v[132];
+            t[Zasadnicza] += v[K::Zasadnicza];
+            t[Stazowy] += v[K::Stazowy];
+            t[Nadlicz] += v[K::Wychowawczy];
+            t[Trudnosciowy] += v[K::Trudnosciowy];
+            t[PodstawaPodatku] += v[K::PodstawaPodatku];
+            t[KZPRata] += v[K::KZPRata];
+            t[PZU] += v[K::PZU];
+            t[PotraceniaInne] += v[K::PotraceniaInne];
+            t[PodatekNetto] += v[K::PodatekNetto];
+            t[Podatek] += v[K::Podatek];
+            t[SkladkaZdrowotnaPozostala] += v[K::SkladkaZdrowotnaPozostala];
             t[PoPotraceniach] += o.PoPotraceniach;
             t[Netto] += o.Netto;
-            t[Funkcyjny] += v[7];
-            t[Wiejski] += v[13];
-            t[Premia] += v[9];
-            t[PodstawaZdrowotna] += v[138];
-            t[KZPSkladka] += v[42];
-            t[SkladkaZdrowotnaOdliczana] += v[146];
-            t[Solidarnosc] += v[46];
-            t[ZasilekPielegnacyjny] += v[53];
-            t[NaROR] += v[27];
-            t[Nagroda] += v[11];
-            t[Specjalny] += static_cast<double>(v[10]) + v[14];
-            t[Szkodliwy] += v[20];
-            t[Mieszkaniowy] += v[32];
-            t[PodstawaZUS] += v[140];
-            t[ZwiazekZawodowy] += v[45];
-            t[ZFMRata] += v[38];
-            t[Potracenie1] += v[50];
-            t[ZasilekRodzinny] += v[54];
-            t[Wyrownania] += v[19];
-            t[DoWyplaty] += v[149];
-            t[Motywacyjny] += v[12];
-            t[Ekwiwalent] += v[17];
-            t[Brutto] += v[135];
-            t[SkladkaChorobowa] += v[131];
-            t[SkladkaRentowa] += v[101];
-            t[SkladkaEmerytalna] += v[107];
+            t[Funkcyjny] += v[K::Funkcyjny];
+            t[Wiejski] += v[K::Wiejski];
+            t[Premia] += v[K::Premia];
+            t[PodstawaZdrowotna] += v[K::PodstawaZdrowotna];
+            t[KZPSkladka] += v[K::KZPSkladka];
+            t[SkladkaZdrowotnaOdliczana] += v[K::SkladkaZdrowotnaOdliczana];
+            t[Solidarnosc] += v[K::Solidarnosc];
+            t[ZasilekPielegnacyjny] += v[K::ZasilekPielegnacyjny];
+            t[NaROR] += v[K::NaROR];
+            t[Nagroda] += v[K::Inny];
+            t[Specjalny] += static_cast<double>(v[K::Specjalny]) + v[K::Specjalistyczny];
+            t[Szkodliwy] += v[K::Szkodliwy];
+            t[Mieszkaniowy] += v[K::Mieszkaniowy];
+            t[PodstawaZUS] += v[K::PodstawaZUS];
+            t[ZwiazekZawodowy] += v[K::ZwiazekZawodowy];
+            t[ZFMRata] += v[K::ZFMRata];
+            t[Potracenie1] += v[K::Potracenie1];
+            t[ZasilekRodzinny] += v[K::ZasilekRodzinny];
+            t[Wyrownania] += v[K::Wyrownania];
+            t[DoWyplaty] += v[K::DoWyplaty];
+            t[Motywacyjny] += v[K::Motywacyjny];
+            t[Ekwiwalent] += v[K::Ekwiwalent];
+            t[Brutto] += v[K::Brutto];
+            t[SkladkaChorobowa] += v[K::SkladkaChorobowa];
+            t[SkladkaRentowa] += v[K::SkladkaRentowa];
+            t[SkladkaEmerytalna] += v[K::SkladkaEmerytalna];
             t[RazemSkl] += o.RazemSkl;
             t[RazemPot] += o.RazemPot;
-            t[ZasilekZUS] += v[56];
+            t[ZasilekZUS] += v[K::ZasilekZUS];
             t[DniKod331] += o.DniKod331;
             t[DniInneKody] += o.DniInneKody;
-            t[DniUrlopu] += v[116];
+            t[DniUrlopu] += v[K::DniUrlopu];
             t[DniNieobecnosci] += o.DniNieobecnosci;
-            t[ZasilkiZUS] += static_cast<double>(v[148]) + v[176];
-            t[ChorobowePracodawca] += v[151];
-            t[Urlopowe] += v[175];
-            t[ZasilekWychowawczy] += v[55];
-            t[Potracenie2] += v[48];
-            t[Potracenie3] += v[49];
-            t[Rentowa] += v[167];
+            t[ZasilkiZUS] += static_cast<double>(v[K::ChoroboweZUS]) + v[K::ChoroboweWypadkowe];
+            t[ChorobowePracodawca] += v[K::ChorobowePracodawca];
+            t[Urlopowe] += v[K::Urlopowe];
+            t[ZasilekWychowawczy] += v[K::ZasilekWychowawczy];
+            t[Potracenie2] += v[K::Potracenie2];
+            t[Potracenie3] += v[K::Potracenie3];
+            t[Rentowa] += v[K::SkladkaRentowaPracodawcy];
             t[Wypadkowa] += o.Wypadkowa;
             t[Etaty] += o.Etaty;
-            t[Nocny] += v[18];
+            t[Nocny] += v[K::Nocny];
             t[ZasilkiGotowka] += o.ZasilkiGotowka;
-            podstawaFP += v[159];
-            podstawaFGSP += v[161];
+            podstawaFP += v[K::PodstawaFP];
+            podstawaFGSP += v[K::PodstawaFGSP];
             podstawaPomostowa += o.PodstawaPomostowa;
 
             // Carry-over to the next page after every 13 persons, up to the 65th.

@@ -21,9 +21,10 @@ extern const char* const kBrakPapieru;        // "Brak papieru w drukarce !"
 extern const char* const kDrukarkaWylaczona;  // "Drukarka nie jest właczona !"
 extern const char* const kBrakKartoteki;      // "Po pierwsze wykonaj kartoteke !"
 
-// One person of the ledger as the list prints it: the ledger's numbers (field n in v[n]) with
-// [27], [43], [135], [170] to [172] and [175] replaced as the print works them out, and the
-// values derived from them.
+// One person of the ledger as the list prints it: the ledger's numbers by their field names
+// (v[Karta::Brutto]), with NaROR, ZasilkiDoROR, Brutto, Niedobor, ZasilkiDoKasy,
+// PodatekOdZasilkow and Urlopowe replaced as the print works them out, and the values derived
+// from them.
 struct OsobaNaLiscie {
     std::array<float, 178> v{};  // v[0] unused
     std::string Nazwisko, Imie, Etat, NumerKonta, Grupa;
@@ -32,8 +33,8 @@ struct OsobaNaLiscie {
     float DniKod331 = 0, DniInneKody = 0;
     std::string KodLinii1 = "   ", KodLinii2 = "   ";
     float DniNieobecnosci = 0;
-    float Wypadkowa = 0;          // the accident amount when the person's switch [155] is 1
-    float PodstawaPomostowa = 0;  // [140] when field 157 is 1
+    float Wypadkowa = 0;          // the accident amount when the person's CheckWypadkowa is 1
+    float PodstawaPomostowa = 0;  // PodstawaZUS when EFPomostowy is 1
     float PodatekOdZasilkow = 0;  // T: tax on the ZUS benefits
     float ZasilkiGotowka = 0;     // C: the cash part of the benefits
     double Etaty = 0;             // the job share as a number

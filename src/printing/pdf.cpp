@@ -1,10 +1,11 @@
 #include "printing/pdf.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdio>
-#include <sstream>
 
+#include "core/commitstream.h"
 #include "core/error.h"
-#include "core/seqfile.h"
 #include "core/text.h"
 #include "printing/sheet.h"
 
@@ -40,63 +41,103 @@ std::string num(double v) {
 
 }  // namespace
 
-void writePdf(const std::vector<core::TextPrinter::Page>& pagesIn, const std::filesystem::path& file) {
-    std::vector<core::TextPrinter::Page> pages = pagesIn;
-    if (pages.empty()) pages.emplace_back();
-    Sheet sheet = fitSheet(pages);
+namespace {
 
-    std::vector<std::string> objects;  // bodies, object n = index + 1
-    auto add = [&](std::string body) {
-        objects.push_back(std::move(body));
-        return static_cast<int>(objects.size());
-    };
-    std::string enc = std::string("<< /Type /Encoding /BaseEncoding /WinAnsiEncoding /Differences ") + kDifferences + " >>";
-    int encoding = add(enc);
-    int regular = add("<< /Type /Font /Subtype /Type1 /BaseFont /Courier /Encoding " + std::to_string(encoding) + " 0 R >>");
-    int bold = add("<< /Type /Font /Subtype /Type1 /BaseFont /Courier-Bold /Encoding " + std::to_string(encoding) + " 0 R >>");
-    int pagesObj = add("");  // filled in below
-    std::vector<int> kids;
-    for (const auto& page : pages) {
-        std::ostringstream c;
-        double y = sheet.height - sheet.margin;
-        c << "BT\n";
-        for (const auto& line : page) {
-            double size = line.size * sheet.scale;
-            y -= size * kLineHeight;
-            c << (line.bold ? "/F2 " : "/F1 ") << num(size) << " Tf 1 0 0 1 " << num(sheet.margin) << " " << num(y)
-              << " Tm " << pdfString(line.text) << " Tj\n";
+// The objects of the file: the encoding, the two fonts, the page tree, then a content stream and
+// a page for each page, and the catalogue last.
+constexpr int kEncoding = 1, kRegular = 2, kBold = 3, kPages = 4, kFirstPage = 5;
+
+class PdfWriter : public core::PageSink {
+public:
+    PdfWriter(const std::filesystem::path& file, const Sheet& sheet) : out_(file), sheet_(sheet) {}
+
+    void object(const std::string& body) {
+        offsets_.push_back(out_.size());
+        out_.write(std::to_string(offsets_.size()) + " 0 obj\n" + body + "\nendobj\n");
+    }
+    void head(int pages) {
+        out_.write("%PDF-1.4\n%\xE2\xE3\xCF\xD3\n");
+        const std::string enc = std::to_string(kEncoding) + " 0 R";
+        object(std::string("<< /Type /Encoding /BaseEncoding /WinAnsiEncoding /Differences ") + kDifferences + " >>");
+        object("<< /Type /Font /Subtype /Type1 /BaseFont /Courier /Encoding " + enc + " >>");
+        object("<< /Type /Font /Subtype /Type1 /BaseFont /Courier-Bold /Encoding " + enc + " >>");
+        std::string kids;
+        for (int i = 0; i < pages; ++i) kids += std::to_string(kFirstPage + 2 * i + 1) + " 0 R ";
+        object("<< /Type /Pages /Kids [" + kids + "] /Count " + std::to_string(pages) + " >>");
+    }
+    void beginPage() override {
+        endPage();
+        open_ = true;
+        y_ = sheet_.height - sheet_.margin;
+        content_ = "BT\n";
+    }
+    void line(const core::PrintLine& l) override {
+        double size = l.size * sheet_.scale;
+        y_ -= size * kLineHeight;
+        content_ += (l.bold ? "/F2 " : "/F1 ") + num(size) + " Tf 1 0 0 1 " + num(sheet_.margin) + " " + num(y_) +
+                    " Tm " + pdfString(l.text) + " Tj\n";
+    }
+    void endPage() {
+        if (!open_) return;
+        open_ = false;
+        content_ += "ET\n";
+        // The content is written as it stands, not copied into the object's text.
+        offsets_.push_back(out_.size());
+        out_.write(std::to_string(offsets_.size()) + " 0 obj\n<< /Length " + std::to_string(content_.size()) +
+                   " >>\nstream\n");
+        out_.write(content_);
+        out_.write("endstream\nendobj\n");
+        content_.clear();
+        content_.shrink_to_fit();
+        object("<< /Type /Page /Parent " + std::to_string(kPages) + " 0 R /MediaBox [0 0 " + num(sheet_.width) + " " +
+               num(sheet_.height) + "] /Resources << /Font << /F1 " + std::to_string(kRegular) + " 0 R /F2 " +
+               std::to_string(kBold) + " 0 R >> >> /Contents " + std::to_string(offsets_.size()) + " 0 R >>");
+    }
+    void finish() {
+        endPage();
+        object("<< /Type /Catalog /Pages " + std::to_string(kPages) + " 0 R >>");
+        const std::uint64_t xref = out_.size();
+        const std::string count = std::to_string(offsets_.size() + 1);
+        out_.write("xref\n0 " + count + "\n0000000000 65535 f \n");
+        for (std::uint64_t off : offsets_) {
+            char buf[32];
+            std::snprintf(buf, sizeof buf, "%010llu 00000 n \n", static_cast<unsigned long long>(off));
+            out_.write(buf);
         }
-        c << "ET\n";
-        std::string stream = c.str();
-        int content = add("<< /Length " + std::to_string(stream.size()) + " >>\nstream\n" + stream + "endstream");
-        kids.push_back(add("<< /Type /Page /Parent " + std::to_string(pagesObj) + " 0 R /MediaBox [0 0 " + num(sheet.width) +
-                           " " + num(sheet.height) + "] /Resources << /Font << /F1 " + std::to_string(regular) +
-                           " 0 R /F2 " + std::to_string(bold) + " 0 R >> >> /Contents " + std::to_string(content) +
-                           " 0 R >>"));
+        out_.write("trailer\n<< /Size " + count + " /Root " + std::to_string(offsets_.size()) + " 0 R >>\nstartxref\n" +
+                   std::to_string(xref) + "\n%%EOF\n");
+        // Bytes as they are: the text inside is already in the PDF's own encoding.
+        out_.commit();
     }
-    std::string kidsText;
-    for (int k : kids) kidsText += std::to_string(k) + " 0 R ";
-    objects[pagesObj - 1] = "<< /Type /Pages /Kids [" + kidsText + "] /Count " + std::to_string(kids.size()) + " >>";
-    int catalog = add("<< /Type /Catalog /Pages " + std::to_string(pagesObj) + " 0 R >>");
 
-    std::string out = "%PDF-1.4\n%\xE2\xE3\xCF\xD3\n";
-    std::vector<std::size_t> offsets;
-    for (std::size_t i = 0; i < objects.size(); ++i) {
-        offsets.push_back(out.size());
-        out += std::to_string(i + 1) + " 0 obj\n" + objects[i] + "\nendobj\n";
-    }
-    std::size_t xref = out.size();
-    out += "xref\n0 " + std::to_string(objects.size() + 1) + "\n0000000000 65535 f \n";
-    for (std::size_t off : offsets) {
-        char buf[32];
-        std::snprintf(buf, sizeof buf, "%010zu 00000 n \n", off);
-        out += buf;
-    }
-    out += "trailer\n<< /Size " + std::to_string(objects.size() + 1) + " /Root " + std::to_string(catalog) +
-           " 0 R >>\nstartxref\n" + std::to_string(xref) + "\n%%EOF\n";
+private:
+    core::CommitStream out_;
+    Sheet sheet_;
+    std::vector<std::uint64_t> offsets_;
+    std::string content_;
+    double y_ = 0;
+    bool open_ = false;
+};
 
-    // Bytes as they are: the text inside is already in the PDF's own encoding.
-    core::commitBytes(file, out);
+}  // namespace
+
+void writePdf(const Spool& pages, const std::filesystem::path& file) {
+    const Sheet sheet = pages.sheet();
+    PdfWriter w(file, sheet);
+    // A print with nothing in it still gives a sheet.
+    w.head(std::max(pages.pageCount(), 1));
+    if (pages.pageCount() == 0) w.beginPage();
+    else pages.replay(w);
+    w.finish();
+}
+
+void writePdf(const std::vector<core::TextPrinter::Page>& pages, const std::filesystem::path& file) {
+    Spool spool;
+    for (const auto& page : pages) {
+        spool.beginPage();
+        for (const auto& line : page) spool.line(line);
+    }
+    writePdf(spool, file);
 }
 
 }  // namespace printing

@@ -5,10 +5,12 @@
 #include <vector>
 
 #include "core/printer.h"
+#include "printing/spool.h"
 
 namespace printing {
 
-// Writes the pages to `file` safely (a failure leaves no half-written file).
+// Writes the pages to `file` safely (a failure leaves no half-written file), page by page.
+void writePdf(const Spool& pages, const std::filesystem::path& file);
 void writePdf(const std::vector<core::TextPrinter::Page>& pages, const std::filesystem::path& file);
 
 }  // namespace printing

@@ -40,7 +40,17 @@ void PodgladWydrukuScreen::Load() {
     s.Strona = 1;
     s.TrybDruku = 0;
     s.RodzajListy = " płac ";
-    core::TextPrinter papier;
+    // The lines are gathered as they are printed and shown in the list box at the end.
+    struct Wiersze : core::PageSink {
+        void beginPage() override {
+            if (!pierwsza) lista.emplace_back(kNowaStrona);
+            pierwsza = false;
+        }
+        void line(const core::PrintLine& l) override { lista.push_back(l.text); }
+        std::vector<std::string> lista;
+        bool pierwsza = true;
+    } doListy;
+    core::StreamPrinter papier(&doListy);
     DrukListy d(s, ui, papier);
     d.postep = [this](int value, int max) {
         ProgressBar1.Min = 1;
@@ -68,13 +78,9 @@ void PodgladWydrukuScreen::Load() {
         Unload();
         return;
     }
+    papier.finish();
     lstPodglad.Clear();
-    bool pierwsza = true;
-    for (const auto& strona : papier.pages()) {
-        if (!pierwsza) lstPodglad.AddItem(kNowaStrona);
-        pierwsza = false;
-        for (const auto& line : strona) lstPodglad.AddItem(line.text);
-    }
+    lstPodglad.List = std::move(doListy.lista);
 }
 
 }  // namespace printing

@@ -19,6 +19,17 @@ struct Sheet {
 constexpr double kCharWidth = 0.6;
 constexpr double kLineHeight = 1.2;
 
+// The measures of pages taken line by line as they are printed.
+class SheetFit {
+public:
+    void beginPage() { tall_ = 0; }
+    void line(const core::PrintLine& l);
+    Sheet sheet() const;
+
+private:
+    double wide_ = 1, tallest_ = 1, tall_ = 0;
+};
+
 Sheet fitSheet(const std::vector<core::TextPrinter::Page>& pages);
 
 }  // namespace printing

@@ -1,5 +1,7 @@
 #include "printing/specyfikacja.h"
 
+#include <optional>
+
 #include "core/error.h"
 #include "core/numbers.h"
 #include "core/paths.h"
@@ -135,16 +137,17 @@ void CmdSpecyfikacja(core::Session& s, core::Dialogs& ui) {
     if (ui.msgBox("Czy chcesz wykonać specyfikacje banknotow z tej listy ? OK Założyc", Buttons::OKCancel, Icon::Question,
                   tytul) != core::Answer::OK)
         return;
-    std::vector<core::Record> karta;
+    std::optional<core::SeqReader> karta;
     try {
-        karta = Karta::readAll(Karta::path(s));
+        karta.emplace(Karta::path(s));
     } catch (const core::Error& e) {
         if (e.Number != core::err::FileNotFound && e.Number != core::err::PathNotFound) throw;
         ui.msgBox(kBrakKartoteki, Buttons::OK, Icon::Exclamation, tytul);
         return;
     }
     std::vector<std::string> kwoty;
-    for (const auto& r : karta) {
+    while (!karta->eof()) {
+        const core::Record r = core::readRecord(*karta, Karta::schema());
         float doWyplaty = r.f(Karta::DoWyplaty);
         if (doWyplaty > 0) kwoty.push_back(tekstKwoty(doWyplaty, 9));
     }

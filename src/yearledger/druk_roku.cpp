@@ -10,6 +10,7 @@
 #include "printing/lista_plac.h"
 
 namespace D = paycalc::Dodatkowy;
+namespace K = paycalc::Karta;
 using core::Buttons;
 using core::Icon;
 using core::Record;
@@ -61,15 +62,22 @@ Blok blokMiesiaca(const MiesiacRoku& m, const core::Stawki& st) {
     const printing::OsobaNaLiscie o = printing::wyliczOsobe(*m.karta, st);
     const auto& v = o.v;
     Blok b;
-    b.pierwsza = {o.KodLinii1 + dni(o.DniInneKody), o.KodLinii2 + dni(o.DniKod331), "   " + dni(v[116]),
+    b.pierwsza = {o.KodLinii1 + dni(o.DniInneKody), o.KodLinii2 + dni(o.DniKod331), "   " + dni(v[K::DniUrlopu]),
                   "   " + dni(o.DniNieobecnosci), core::Left(o.Etat, 3) + core::Right(o.Etat, 3)};
-    b.k[0] = {static_cast<double>(v[176]) + v[148], v[6], v[8], v[15], v[136], v[107], v[41], v[50], v[89],
-              o.PoPotraceniach, o.Netto, 0, 0};
-    b.k[1] = {v[151], v[7], v[13], v[16], v[138], v[101], v[42], v[48], v[132], v[53], v[49], 0, 0};
-    b.k[2] = {v[175], v[11], static_cast<double>(v[10]) + v[14], v[32], v[140], v[131], v[38], v[44], v[146], v[54],
-              v[27], 0, 0};
-    b.k[3] = {v[172], v[9], v[12], v[17], v[135], o.RazemSkl, v[47], 0, v[134], v[56], v[149], 0, 0};
-    b.k[4] = {v[128], v[19], v[20], v[18], v[174], v[30], v[45], v[46], o.RazemPot, v[55], v[95], 0, 0};
+    b.k[0] = {static_cast<double>(v[K::ChoroboweWypadkowe]) + v[K::ChoroboweZUS], v[K::Zasadnicza], v[K::Stazowy],
+              v[K::Wychowawczy], v[K::PodstawaPodatku], v[K::SkladkaEmerytalna], v[K::KZPRata], v[K::Potracenie1],
+              v[K::Podatek], o.PoPotraceniach, o.Netto, 0, 0};
+    b.k[1] = {v[K::ChorobowePracodawca], v[K::Funkcyjny], v[K::Wiejski], v[K::Trudnosciowy], v[K::PodstawaZdrowotna],
+              v[K::SkladkaRentowa], v[K::KZPSkladka], v[K::Potracenie2], v[K::SkladkaZdrowotnaPozostala],
+              v[K::ZasilekPielegnacyjny], v[K::Potracenie3], 0, 0};
+    b.k[2] = {v[K::Urlopowe], v[K::Inny], static_cast<double>(v[K::Specjalny]) + v[K::Specjalistyczny],
+              v[K::Mieszkaniowy], v[K::PodstawaZUS], v[K::SkladkaChorobowa], v[K::ZFMRata], v[K::PotraceniaInne],
+              v[K::SkladkaZdrowotnaOdliczana], v[K::ZasilekRodzinny], v[K::NaROR], 0, 0};
+    b.k[3] = {v[K::PodatekOdZasilkow], v[K::Premia], v[K::Motywacyjny], v[K::Ekwiwalent], v[K::Brutto], o.RazemSkl,
+              v[K::PZU], 0, v[K::PodatekNetto], v[K::ZasilekZUS], v[K::DoWyplaty], 0, 0};
+    b.k[4] = {v[K::SredniaChorobowa], v[K::Wyrownania], v[K::Szkodliwy], v[K::Nocny], v[K::UlgaZastosowana],
+              v[K::KosztyUzyskania], v[K::ZwiazekZawodowy], v[K::Solidarnosc], o.RazemPot, v[K::ZasilekWychowawczy],
+              v[K::SkladkaWypadkowa], 0, 0};
     dodatkowaKolumna(b, 11, m.godziny, st);
     dodatkowaKolumna(b, 12, m.dodatki, st);
     return b;
@@ -114,7 +122,7 @@ void drukujRok(core::Printer& p, const DaneRoku& d, const OsobaRoku& o, const co
         const printing::OsobaNaLiscie os = printing::wyliczOsobe(*mr.karta, st);
         dniRoku[0] += static_cast<double>(os.DniInneKody);
         dniRoku[1] += static_cast<double>(os.DniKod331);
-        dniRoku[2] += static_cast<double>(os.v[116]);
+        dniRoku[2] += static_cast<double>(os.v[K::DniUrlopu]);
         dniRoku[3] += static_cast<double>(os.DniNieobecnosci);
         for (std::size_t w = 0; w < 5; ++w)
             for (std::size_t c = 0; c < kSzerokosci.size(); ++c) rok.k[w][c] += b.k[w][c];

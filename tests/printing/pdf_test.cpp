@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "printing/pdf.h"
 #include "printing/sheet.h"
+#include "printing/spool.h"
 #include "support/run.h"
 #include "support/tempdir.h"
 
@@ -58,5 +59,48 @@ TEST(Pdf, PagesAndPolishLetters) {
     if (std::filesystem::exists("/usr/bin/pdftotext")) {
         auto r = testing_support::run("/usr/bin/pdftotext", {"-layout", file.string(), "-"}, dir.path());
         EXPECT_NE(r.out.find("Zażółć gęślą jaźń 4"), std::string::npos) << r.out;
+    }
+}
+
+// A print as the engine makes it, in short: "a" a line, "~a" text left open, "|" a page feed,
+// "." the end of a document. The pages kept by the text printer and those streamed into a spool
+// and read back are the same, page feeds and open lines at the end included.
+TEST(Spool, StreamedPagesAreThePagesPrinted) {
+    struct {
+        const char* name;
+        std::vector<std::string> script;
+        std::string text;
+    } cases[] = {
+        {"two pages", {"a", "|", "b", "."}, "a\n\fb\n"},
+        {"feed at the end gives no sheet", {"a", "|", "."}, "a\n"},
+        {"feed first leaves an empty page", {"|", "a", "."}, "\fa\n"},
+        {"two feeds leave an empty page", {"a", "|", "|", "b", "."}, "a\n\f\fb\n"},
+        {"two documents", {"a", ".", "b", "."}, "a\n\fb\n"},
+        {"open line of an unfinished print", {"a", "~x"}, "a\nx\n"},
+        {"open line after a document stays on its sheet", {"a", ".", "~x"}, "a\nx\n"},
+        {"feed of an unfinished document", {"a", "|"}, "a\n\f"},
+        {"nothing", {"."}, ""},
+    };
+    for (const auto& c : cases) {
+        TextPrinter kept;
+        printing::Spool spool;
+        core::StreamPrinter streamed(&spool);
+        for (core::StreamPrinter* p : {static_cast<core::StreamPrinter*>(&kept), &streamed})
+            for (const std::string& op : c.script) {
+                if (op == "|") p->newPage();
+                else if (op == ".") p->endDoc();
+                else if (op[0] == '~') p->print(op.substr(1), false);
+                else p->print(op);
+            }
+        EXPECT_EQ(kept.text(), c.text) << c.name;
+        streamed.finish();
+        const std::vector<TextPrinter::Page> pages = spool.pages();
+        std::string text;
+        for (std::size_t i = 0; i < pages.size(); ++i) {
+            if (i) text += '\f';
+            for (const auto& l : pages[i]) text += l.text + "\n";
+        }
+        EXPECT_EQ(text, c.text) << c.name;
+        EXPECT_EQ(spool.pageCount(), static_cast<int>(pages.size())) << c.name;
     }
 }
