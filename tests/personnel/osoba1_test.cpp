@@ -92,7 +92,7 @@ TEST(Osoba1, ValidationOfSaveInItsOrder) {
          {"[Wpisz Kod ubezpieczenia!] Brak wpisu nr Kodu ubezpieczenia"}, "txtKodUbezpieczenia"},
         {"short birth date", [](Osoba1Screen& f) { f.txt(Osoba::DataUrodzenia).Text = "1-3-1975"; },
          {"[Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !] Brak daty urodzenia"}, "txtDataUrodzenia"},
-        {"birth date of 11", [](Osoba1Screen& f) { f.txtDataUrodzenia.Text = "01-03-19750"; },
+        {"birth date of 11", [](Osoba1Screen& f) { f.txt(Osoba::DataUrodzenia).Text = "01-03-19750"; },
          {"[Wpisz date w formacie dd-mm-RRRR lub kliknij w pole tekstowe !] Brak daty urodzenia"}, "txtDataUrodzenia"},
     };
     for (const Case& c : cases) {
