@@ -3,7 +3,8 @@
 // a lean baseline of the same bytes: every input read once, its items split, an output of the
 // command's output size written and synced. Prints each command's time and its ratio to the
 // baseline, its peak memory and the ratio of that to the bytes of its input and output files.
-// Sizes may be given as arguments: pensja-bench-cli 2500 25000.
+// Sizes may be given as arguments: pensja-bench-cli 2500 25000; with --dane FOLDER the lists are
+// made in FOLDER and left there (for a profiler), lista<size> each.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -43,10 +44,18 @@ struct Wiersz {
 
 int main(int argc, char** argv) {
     std::vector<int> rozmiary;
-    for (int i = 1; i < argc; ++i) rozmiary.push_back(std::atoi(argv[i]));
+    fs::path tmp = fs::temp_directory_path() / ("pensja-bench-cli-" + std::to_string(::getpid()));
+    bool zostaw = false;
+    for (int i = 1; i < argc; ++i) {
+        if (std::string(argv[i]) == "--dane" && i + 1 < argc) {
+            tmp = fs::absolute(argv[++i]);
+            zostaw = true;
+        } else {
+            rozmiary.push_back(std::atoi(argv[i]));
+        }
+    }
     if (rozmiary.empty()) rozmiary = {2500, 25000};
     const auto& polecenia = bench::poleceniaMiesiaca();
-    const fs::path tmp = fs::temp_directory_path() / ("pensja-bench-cli-" + std::to_string(::getpid()));
     const fs::path bledy = tmp / "stderr.txt";
     bool dobrze = true;
 
@@ -100,9 +109,9 @@ int main(int argc, char** argv) {
         }
         std::fflush(stdout);
         std::error_code ec;
-        fs::remove_all(folder, ec);
+        if (!zostaw) fs::remove_all(folder, ec);
     }
     std::error_code ec;
-    fs::remove_all(tmp, ec);
+    if (!zostaw) fs::remove_all(tmp, ec);
     return dobrze ? 0 : 1;
 }
