@@ -102,6 +102,54 @@ std::size_t shortest(char* out, double v, int prec) {
     return static_cast<std::size_t>(r.ptr - out);
 }
 
+// The same text from the shortest digits that give the value back ("d.ddde+XX"), when there are
+// at most `prec` of them and the value lies closer to them than half a unit of the last of the
+// `prec` places (its own unit in the last place is below a unit of that place): they are then
+// the digits %.*G rounds the value to, and only the layout is left. 0 when they are not.
+template <class T>
+std::size_t fromShortest(char* out, T v, int prec, T ulp) {
+    char sci[48];
+    const auto r = std::to_chars(sci, sci + sizeof sci, v, std::chars_format::scientific);
+    const char* p = sci;
+    const bool negative = *p == '-';
+    if (negative) ++p;
+    char digits[24];
+    int nd = 0;
+    for (; p < r.ptr && *p != 'e'; ++p)
+        if (*p != '.') digits[nd++] = *p;
+    // A power of ten may stand for a value just below it, whose places are a decade finer.
+    if (nd > prec || (nd == 1 && digits[0] == '1')) return 0;
+    int exp10 = 0;
+    std::from_chars(p + 1 + (p[1] == '+'), r.ptr, exp10);
+    if (!(static_cast<double>(ulp) < std::pow(10.0, exp10 - prec + 1))) return 0;
+    char* o = out;
+    if (negative) *o++ = '-';
+    if (exp10 < -4 || exp10 >= prec) {
+        *o++ = digits[0];
+        if (nd > 1) {
+            *o++ = '.';
+            for (int i = 1; i < nd; ++i) *o++ = digits[i];
+        }
+        *o++ = 'E';
+        *o++ = exp10 < 0 ? '-' : '+';
+        const int a = std::abs(exp10);
+        if (a < 10) *o++ = '0';
+        o = std::to_chars(o, o + 4, a).ptr;
+    } else if (exp10 >= 0) {
+        for (int i = 0; i <= exp10; ++i) *o++ = i < nd ? digits[i] : '0';
+        if (nd > exp10 + 1) {
+            *o++ = '.';
+            for (int i = exp10 + 1; i < nd; ++i) *o++ = digits[i];
+        }
+    } else {
+        *o++ = '0';
+        *o++ = '.';
+        for (int i = 0; i < -exp10 - 1; ++i) *o++ = '0';
+        for (int i = 0; i < nd; ++i) *o++ = digits[i];
+    }
+    return static_cast<std::size_t>(o - out);
+}
+
 std::string formatNumber(double v, int sig, std::string_view fmt) {
     std::size_t point = fmt.find('.');
     std::string_view wholeFmt = fmt.substr(0, point);
@@ -185,8 +233,21 @@ std::string formatNumber(double v, int sig, std::string_view fmt) {
 
 }  // namespace
 
-std::size_t numText(char* out, float v) { return shortest(out, static_cast<double>(v), 7); }
-std::size_t numText(char* out, double v) { return shortest(out, v, 15); }
+std::size_t numText(char* out, float v) {
+    if (v != 0 && std::isfinite(v)) {
+        const float ulp = std::nextafter(std::fabs(v), std::numeric_limits<float>::infinity()) - std::fabs(v);
+        if (const std::size_t n = fromShortest(out, v, 7, ulp)) return n;
+    }
+    return shortest(out, static_cast<double>(v), 7);
+}
+
+std::size_t numText(char* out, double v) {
+    if (std::isnormal(v)) {
+        const double ulp = std::nextafter(std::fabs(v), std::numeric_limits<double>::infinity()) - std::fabs(v);
+        if (const std::size_t n = fromShortest(out, v, 15, ulp)) return n;
+    }
+    return shortest(out, v, 15);
+}
 
 std::string numText(float v) {
     char buf[kNumTextMax];

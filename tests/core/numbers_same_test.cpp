@@ -166,12 +166,13 @@ std::string groszeByPrintf(double v) {
 std::vector<double> wartosci() {
     std::vector<double> v = {0.0, -0.0, 0.5, -0.5, 0.125, 0.375, -0.125, 1.005, 2.675, 12.345, 2999.995, 1e15, 1e16,
                              -1e15, 123456789012.345, 999999999999.995, 1e12, 1e12 - 0.005, 4242.3798828125,
-                             1.0 / 3, 1e-5, 1e-300, 5e-324, 1.7976931348623157e308, -2.5e-7};
+                             1.0 / 3, 1e-5, 1e-300, 5e-324, 1.7976931348623157e308, -2.5e-7, 1e-40, 3.4028234e38, 9999999.0,
+                             8388607.5, 16777216.0, 0.1, 123456.7};
     std::mt19937_64 g(20210131);
     std::uniform_int_distribution<long> grosze(-100000000, 100000000);
     std::uniform_real_distribution<double> wykladnik(-12, 16);
     std::uniform_int_distribution<long> tysieczne(-10000000, 10000000);
-    for (int i = 0; i < 30000; ++i) {
+    for (int i = 0; i < 12000; ++i) {
         v.push_back(static_cast<double>(grosze(g)) / 100);
         v.push_back(static_cast<double>(tysieczne(g)) / 1000);
         v.push_back(static_cast<double>(tysieczne(g)) * 10 + 5);
@@ -179,6 +180,7 @@ std::vector<double> wartosci() {
         v.push_back(m);
         v.push_back(static_cast<float>(m));
         v.push_back(static_cast<float>(static_cast<double>(grosze(g)) / 100));
+        v.push_back(std::ldexp(static_cast<double>(grosze(g)), static_cast<int>(grosze(g) % 140)));  // every binade
     }
     return v;
 }
