@@ -47,7 +47,7 @@ void Record::put(int n, Item::Kind kind, std::string_view text) {
     Slot& sl = const_cast<Slot&>(slot(n));
     if (text.size() <= sl.size) {
         // In the place of the old text; what it leaves over is no longer used.
-        std::memmove(buf_.data() + sl.at, text.data(), text.size());
+        if (!text.empty()) std::memmove(buf_.data() + sl.at, text.data(), text.size());
         unused_ += sl.size - static_cast<std::uint32_t>(text.size());
     } else {
         if (text.data() >= buf_.data() && text.data() < buf_.data() + buf_.size()) {
