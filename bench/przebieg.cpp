@@ -70,6 +70,8 @@ Pomiar uruchom(const std::string& program, const fs::path& folder, const Polecen
     m.sekundy = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     m.status = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
     m.pamiecKB = ru.ru_maxrss;
+    m.procesor = static_cast<double>(ru.ru_utime.tv_sec + ru.ru_stime.tv_sec) +
+                 static_cast<double>(ru.ru_utime.tv_usec + ru.ru_stime.tv_usec) / 1e6;
     for (const auto& [nazwa, plik] : stan(folder)) {
         auto it = przed.find(nazwa);
         if ((it == przed.end() || it->second != plik) && (p.naWyjsciu || nazwa != p.wyjscie)) {

@@ -29,6 +29,7 @@ struct Plik {
 struct Pomiar {
     int status = -1;
     double sekundy = 0;          // wall time of the child
+    double procesor = 0;         // its processor time, user and system
     long pamiecKB = 0;           // its peak resident memory (ru_maxrss)
     std::vector<Plik> wyniki;    // the files it created or changed (standard output when it is the output), by name
     std::uintmax_t bajtyWejscia = 0, bajtyWyjscia = 0;

@@ -10,18 +10,15 @@
 #include "paycalc/karta_record.h"
 #include "paycalc/kartoteka.h"
 #include "paycalc/zerowanie.h"
-#include "personnel/person_record.h"
 
 namespace {
 
-// Opens the list LISTA (its file name), with the count of the people of its personnel file as
-// the list screen leaves it.
+// Opens the list LISTA (its file name) as the choice of a list opens it. The people of the list
+// are counted by the commands themselves as they read its files.
 void otworzListe(cli::Context& c, const std::string& polecenie, std::size_t argumenty) {
     if (c.args.size() < argumenty || c.args.size() > argumenty + (polecenie == "base" ? 1 : 0))
         throw cli::Usage(polecenie + ": zła liczba argumentów");
     c.openList(c.args[0], false);
-    core::Session& s = c.session;
-    if (core::fileExists(s.SciezkaOsob)) s.LiczbaOsob = static_cast<int>(personnel::Osoba::readAll(s.SciezkaOsob).size());
 }
 
 int kartoteka(cli::Context& c) {

@@ -143,6 +143,10 @@ static void manual(std::ostream& out) {
 }
 
 int main(int argc, char** argv) {
+    // Everything goes through the C++ streams: they need not keep step with C's, and a long
+    // output (calc --all of a whole list) is written in large parts. Standard input is tied to
+    // standard output, so a question still shows what came before it.
+    std::ios::sync_with_stdio(false);
     cli::Context ctx;
     std::string command;
     int i = 1;

@@ -1,5 +1,6 @@
 #include "core/numbers.h"
 
+#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -14,15 +15,32 @@ namespace core {
 
 double Fix(double x) { return std::trunc(x); }
 
+namespace {
+
+bool beyondSingle(double x) {
+    return std::isinf(x) || (std::isfinite(x) && std::fabs(x) > std::numeric_limits<float>::max());
+}
+
+[[noreturn]] void singleOverflow(double x, const std::string& step) {
+    throw Error(err::Overflow, step, "kwota " + numText(x) + " przekracza zakres liczby pojedynczej precyzji");
+}
+
+// CSng whose step is named only when the store fails.
+float narrow(double x, const char* step) {
+    if (beyondSingle(x)) singleOverflow(x, step);
+    return static_cast<float>(x);
+}
+
+}  // namespace
+
 float CSng(double x, const std::string& step) {
-    if (std::isinf(x) || (std::isfinite(x) && std::fabs(x) > std::numeric_limits<float>::max()))
-        throw Error(err::Overflow, step, "kwota " + numText(x) + " przekracza zakres liczby pojedynczej precyzji");
+    if (beyondSingle(x)) singleOverflow(x, step);
     return static_cast<float>(x);
 }
 
 float Round2(double x) {
     double r = std::nearbyint(x * 100.0) / 100.0;  // the default rounding mode: ties to even
-    return CSng(r, "Round2");
+    return narrow(r, "Round2");
 }
 
 float Round2InPlace(float& x) {
@@ -32,7 +50,7 @@ float Round2InPlace(float& x) {
 
 float RoundZl(double x) {
     double f = Fix(x);
-    return CSng(x - f >= 0.5 ? f + 1 : f, "RoundZl");
+    return narrow(x - f >= 0.5 ? f + 1 : f, "RoundZl");
 }
 
 float RoundZlInPlace(float& x) {
@@ -41,13 +59,24 @@ float RoundZlInPlace(float& x) {
 }
 
 double RoundSkl(double x) {
+    // The third decimal is looked at in the text of the whole thousandths: below 10^15 that text
+    // is the whole number itself, so its last digit is the number's last digit.
     double t = Fix(x * 1000);
-    std::string tt = numText(t);
-    if (!tt.empty() && tt.back() == '5')
+    bool piec;
+    if (std::fabs(t) < 1e15) {
+        piec = std::fmod(std::fabs(t), 10.0) == 5.0;
+    } else {
+        std::string tt = numText(t);
+        piec = !tt.empty() && tt.back() == '5';
+    }
+    if (piec)
         x = x + 0.001;
     else
         x = t / 1000;
     x = std::nearbyint(x * 100.0) / 100.0;
+    // The value goes through its text "0.00" and back. Below 10^12 that text has all of the
+    // whole hundredths x stands for, and reading it back gives x again (a zero without its sign).
+    if (std::fabs(x) < 1e12) return x == 0 ? 0.0 : x;
     return std::strtod(Format(x, "0.00").c_str(), nullptr);
 }
 
@@ -56,87 +85,68 @@ namespace {
 
 // %G-like text with `prec` significant digits, the exponent written as the classic run-time
 // writes it (E+07, E-05), no trailing zeros.
-std::string shortest(double v, int prec) {
-    if (v == 0) return "0";
-    char buf[64];
-    std::snprintf(buf, sizeof buf, "%.*G", prec, v);
-    std::string s = buf;
-    auto e = s.find('E');
-    if (e != std::string::npos) {
-        std::string mant = s.substr(0, e);
-        std::string ex = s.substr(e + 1);
-        char sign = ex[0];
-        std::string digits = ex.substr(1);
-        while (digits.size() > 2 && digits[0] == '0') digits.erase(0, 1);
-        if (digits.size() < 2) digits = "0" + digits;
-        s = mant + "E" + sign + digits;
+std::size_t shortest(char* out, double v, int prec) {
+    if (v == 0) {
+        out[0] = '0';
+        return 1;
     }
-    return s;
+    if (!std::isfinite(v)) {
+        int n = std::snprintf(out, kNumTextMax, "%.*G", prec, v);
+        return static_cast<std::size_t>(n);
+    }
+    // As printf's %.*G: the exponent has at least two digits, trailing zeros are dropped.
+    const auto r = std::to_chars(out, out + kNumTextMax, v, std::chars_format::general, prec);
+    for (char* p = out; p < r.ptr; ++p)
+        if (*p == 'e') *p = 'E';
+    return static_cast<std::size_t>(r.ptr - out);
 }
 
-// Decimal digits of |v| taken to `sig` significant digits: the digits and the power of ten of
-// the first one.
-struct Decimal {
-    std::string digits;  // no leading zeros, at least one digit
-    int exp10 = 0;       // value = 0.d1d2d3... * 10^(exp10+1)... i.e. d1 stands at 10^exp10
-    bool negative = false;
-    bool zero = true;
-};
-
-Decimal toDecimal(double v, int sig) {
-    Decimal d;
-    if (v == 0 || !std::isfinite(v)) return d;
-    d.negative = v < 0;
-    char buf[64];
-    std::snprintf(buf, sizeof buf, "%.*e", sig - 1, std::fabs(v));
-    std::string s = buf;
-    auto e = s.find('e');
-    for (std::size_t i = 0; i < e; ++i)
-        if (s[i] >= '0' && s[i] <= '9') d.digits += s[i];
-    d.exp10 = std::atoi(s.c_str() + e + 1);
-    d.zero = false;
-    return d;
-}
-
-// The value rounded half away from zero to `places` decimals: whole part digits and decimals.
-void roundDecimal(const Decimal& d, int places, std::string& whole, std::string& frac) {
-    whole.clear();
-    frac.clear();
-    if (d.zero) {
-        whole = "0";
-        frac.assign(places, '0');
-        return;
-    }
-    // Digit string covering positions from 10^max(exp10,0) down to 10^-(places+1).
-    int hi = std::max(d.exp10, 0);
-    int lo = -(places + 1);
-    std::string all;
-    for (int p = hi; p >= lo; --p) {
-        int idx = d.exp10 - p;
-        char c = (idx >= 0 && idx < static_cast<int>(d.digits.size())) ? d.digits[idx] : '0';
-        all += c;
-    }
-    // Any digit beyond the first dropped one does not matter for half away from zero:
-    // round on the digit at 10^-(places+1).
-    bool up = all.back() >= '5';
-    all.pop_back();
-    if (up) {
-        int i = static_cast<int>(all.size()) - 1;
-        while (i >= 0) {
-            if (all[i] == '9') {
-                all[i] = '0';
-                --i;
-            } else {
-                ++all[i];
-                break;
-            }
+// The same text from the shortest digits that give the value back ("d.ddde+XX"), when there are
+// at most `prec` of them and the value lies closer to them than half a unit of the last of the
+// `prec` places (its own unit in the last place is below a unit of that place): they are then
+// the digits %.*G rounds the value to, and only the layout is left. 0 when they are not.
+template <class T>
+std::size_t fromShortest(char* out, T v, int prec, T ulp) {
+    char sci[48];
+    const auto r = std::to_chars(sci, sci + sizeof sci, v, std::chars_format::scientific);
+    const char* p = sci;
+    const bool negative = *p == '-';
+    if (negative) ++p;
+    char digits[24];
+    int nd = 0;
+    for (; p < r.ptr && *p != 'e'; ++p)
+        if (*p != '.') digits[nd++] = *p;
+    // A power of ten may stand for a value just below it, whose places are a decade finer.
+    if (nd > prec || (nd == 1 && digits[0] == '1')) return 0;
+    int exp10 = 0;
+    std::from_chars(p + 1 + (p[1] == '+'), r.ptr, exp10);
+    if (!(static_cast<double>(ulp) < std::pow(10.0, exp10 - prec + 1))) return 0;
+    char* o = out;
+    if (negative) *o++ = '-';
+    if (exp10 < -4 || exp10 >= prec) {
+        *o++ = digits[0];
+        if (nd > 1) {
+            *o++ = '.';
+            for (int i = 1; i < nd; ++i) *o++ = digits[i];
         }
-        if (i < 0) all.insert(all.begin(), '1');
+        *o++ = 'E';
+        *o++ = exp10 < 0 ? '-' : '+';
+        const int a = std::abs(exp10);
+        if (a < 10) *o++ = '0';
+        o = std::to_chars(o, o + 4, a).ptr;
+    } else if (exp10 >= 0) {
+        for (int i = 0; i <= exp10; ++i) *o++ = i < nd ? digits[i] : '0';
+        if (nd > exp10 + 1) {
+            *o++ = '.';
+            for (int i = exp10 + 1; i < nd; ++i) *o++ = digits[i];
+        }
+    } else {
+        *o++ = '0';
+        *o++ = '.';
+        for (int i = 0; i < -exp10 - 1; ++i) *o++ = '0';
+        for (int i = 0; i < nd; ++i) *o++ = digits[i];
     }
-    whole = all.substr(0, all.size() - places);
-    frac = all.substr(all.size() - places);
-    std::size_t nz = whole.find_first_not_of('0');
-    whole = nz == std::string::npos ? "0" : whole.substr(nz);
+    return static_cast<std::size_t>(o - out);
 }
 
 std::string formatNumber(double v, int sig, std::string_view fmt) {
@@ -154,36 +164,102 @@ std::string formatNumber(double v, int sig, std::string_view fmt) {
         if (c == '0' || c == '#') ++places;
         if (c == '0') minPlaces = places;
     }
-    Decimal d = toDecimal(v, sig);
-    std::string whole, frac;
-    roundDecimal(d, places, whole, frac);
-    while (static_cast<int>(frac.size()) > minPlaces && frac.back() == '0') frac.pop_back();
-    bool isZero = whole.find_first_not_of('0') == std::string::npos && frac.find_first_not_of('0') == std::string::npos;
-    if (whole == "0" && minWhole == 0) whole.clear();
-    while (static_cast<int>(whole.size()) < minWhole) whole.insert(whole.begin(), '0');
-    if (group && whole.size() > 3) {
-        std::string g;
-        int n = static_cast<int>(whole.size());
-        for (int i = 0; i < n; ++i) {
-            if (i > 0 && (n - i) % 3 == 0) g += ',';
-            g += whole[i];
-        }
-        whole = g;
+    // The decimal digits of |v| taken to `sig` significant digits; the first stands at 10^exp10.
+    char digits[48];
+    int nd = 0, exp10 = 0;
+    bool negative = false, zero = true;
+    if (v != 0 && std::isfinite(v)) {
+        char buf[64];
+        const auto r = std::to_chars(buf, buf + sizeof buf, std::fabs(v), std::chars_format::scientific, sig - 1);
+        const char* p = buf;
+        for (; p < r.ptr && *p != 'e'; ++p)
+            if (*p >= '0' && *p <= '9') digits[nd++] = *p;
+        std::from_chars(p + 1 + (p[1] == '+'), r.ptr, exp10);
+        negative = v < 0;
+        zero = false;
     }
+    // The digits from 10^max(exp10,0) down to 10^-places, rounded half away from zero on the
+    // digit at 10^-(places+1): any digit beyond it does not matter.
+    std::string all;
+    if (zero) {
+        all.assign(static_cast<std::size_t>(places) + 1, '0');
+    } else {
+        const int hi = std::max(exp10, 0);
+        const int lo = -(places + 1);
+        all.resize(static_cast<std::size_t>(hi - lo + 1));
+        for (int p = hi; p >= lo; --p) {
+            const int idx = exp10 - p;
+            all[static_cast<std::size_t>(hi - p)] = (idx >= 0 && idx < nd) ? digits[idx] : '0';
+        }
+        const bool up = all.back() >= '5';
+        all.pop_back();
+        if (up) {
+            int i = static_cast<int>(all.size()) - 1;
+            while (i >= 0 && all[static_cast<std::size_t>(i)] == '9') all[static_cast<std::size_t>(i--)] = '0';
+            if (i < 0)
+                all.insert(all.begin(), '1');
+            else
+                ++all[static_cast<std::size_t>(i)];
+        }
+    }
+    const std::size_t wholeEnd = all.size() - static_cast<std::size_t>(places);
+    std::size_t wholeStart = 0;
+    while (wholeStart + 1 < wholeEnd && all[wholeStart] == '0') ++wholeStart;
+    std::size_t fracEnd = all.size();
+    while (fracEnd > wholeEnd + static_cast<std::size_t>(minPlaces) && all[fracEnd - 1] == '0') --fracEnd;
+    const std::string_view whole0(all.data() + wholeStart, wholeEnd - wholeStart);
+    const std::string_view frac(all.data() + wholeEnd, fracEnd - wholeEnd);
+    const bool wholeZero = whole0 == "0";
+    const bool isZero = wholeZero && frac.find_first_not_of('0') == std::string_view::npos;
+    const std::string_view whole = wholeZero && minWhole == 0 ? std::string_view{} : whole0;
+    const std::size_t minW = static_cast<std::size_t>(minWhole);
+    const std::size_t pad = whole.size() < minW ? minW - whole.size() : 0;
+    const std::size_t n = whole.size() + pad;
+
     std::string out;
-    if (d.negative && !isZero) out += '-';
-    out += whole;
-    if (point != std::string_view::npos && (!frac.empty() || places == 0)) {
-        if (!frac.empty()) out += '.' + frac;
+    out.reserve(n + n / 3 + frac.size() + 2);
+    if (negative && !isZero) out += '-';
+    for (std::size_t i = 0; i < n; ++i) {
+        if (group && n > 3 && i > 0 && (n - i) % 3 == 0) out += ',';
+        out += i < pad ? '0' : whole[i - pad];
+    }
+    if (!frac.empty()) {
+        out += '.';
+        out.append(frac);
     }
     return out;
 }
 
 }  // namespace
 
-std::string numText(float v) { return shortest(static_cast<double>(v), 7); }
-std::string numText(double v) { return shortest(v, 15); }
-std::string numText(long v) { return std::to_string(v); }
+std::size_t numText(char* out, float v) {
+    if (v != 0 && std::isfinite(v)) {
+        const float ulp = std::nextafter(std::fabs(v), std::numeric_limits<float>::infinity()) - std::fabs(v);
+        if (const std::size_t n = fromShortest(out, v, 7, ulp)) return n;
+    }
+    return shortest(out, static_cast<double>(v), 7);
+}
+
+std::size_t numText(char* out, double v) {
+    if (std::isnormal(v)) {
+        const double ulp = std::nextafter(std::fabs(v), std::numeric_limits<double>::infinity()) - std::fabs(v);
+        if (const std::size_t n = fromShortest(out, v, 15, ulp)) return n;
+    }
+    return shortest(out, v, 15);
+}
+
+std::string numText(float v) {
+    char buf[kNumTextMax];
+    return std::string(buf, numText(buf, v));
+}
+std::string numText(double v) {
+    char buf[kNumTextMax];
+    return std::string(buf, numText(buf, v));
+}
+std::string numText(long v) {
+    char buf[24];
+    return std::string(buf, std::to_chars(buf, buf + sizeof buf, v).ptr);
+}
 
 std::string Format(double v, std::string_view fmt) { return formatNumber(v, 15, fmt); }
 std::string Format(float v, std::string_view fmt) { return formatNumber(static_cast<double>(v), 7, fmt); }

@@ -36,6 +36,10 @@ std::string numText(float v);
 std::string numText(double v);
 std::string numText(long v);
 inline std::string numText(int v) { return numText(static_cast<long>(v)); }
+// The same texts written into `out`, which has room for kNumTextMax characters: their length.
+inline constexpr std::size_t kNumTextMax = 32;
+std::size_t numText(char* out, float v);
+std::size_t numText(char* out, double v);
 
 // The format strings the system prints with: "#" and "0" digit places, "," anywhere in the
 // whole part for groups of three (written ","), "." for the decimal point; "@" and "!" for

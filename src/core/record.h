@@ -1,8 +1,11 @@
 // Schema-driven records. Each file format is one table of (field name, type) in the order of
 // the file, and an enum of its field numbers (1-based, as the format tables count them), so
 // `pay.f(Pay::Zasadnicza)` reads as the field list does. A record keeps every item as it stood
-// in the file, so writing a record back gives the same bytes for every field not changed.
+// in the file, so writing a record back gives the same bytes for every field not changed. The
+// items of a record are kept together: their texts one after another in one buffer, and for
+// each field where its text stands and what kind of item it is.
 #pragma once
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,27 +52,47 @@ public:
     float f(int n) const;
     double d(int n) const;
     long i(int n) const;
-    bool isEmpty(int n) const { return item(n).kind == Item::Empty; }
-    const Item& item(int n) const;
-    Item& item(int n);
+    bool isEmpty(int n) const { return kind(n) == Item::Empty; }
+    Item item(int n) const;
+    // The item's kind and text without a copy; the text is valid until the record changes.
+    Item::Kind kind(int n) const;
+    std::string_view text(int n) const;
 
     // Storing a field by its type: a String or Line field takes a quoted text, a Float is
     // narrowed to 32 bits, an Int16 must fit (else Error 6). A Variant keeps what it is given:
     // text quoted, numbers bare.
     void set(int n, const std::string& text);
     void set(int n, const char* text) { set(n, std::string(text)); }
-    void set(int n, float v);
-    void set(int n, double v);
+    void set(int n, float v) { setNumber(n, v); }
+    void set(int n, double v) { setNumber(n, v); }
     void set(int n, long v);
     void set(int n, int v) { set(n, static_cast<long>(v)); }
     void setEmpty(int n);
-    void setItem(int n, Item it) { item(n) = std::move(it); }
+    void setItem(int n, const Item& it) { put(n, it.kind, it.text); }
 
     std::string fieldName(int n) const;
 
 private:
+    // Where the text of a field stands in buf_ and what kind of item it is.
+    struct Slot {
+        std::uint32_t at = 0;
+        std::uint32_t size : 30 = 0;
+        std::uint32_t kind : 2 = Item::Empty;
+    };
+    const Slot& slot(int n) const;  // Error 9 for a field the schema does not have
+    FieldType type(int n) const { return schema_->fields[static_cast<std::size_t>(n) - 1].type; }
+    // Stores an item as it is.
+    void put(int n, Item::Kind kind, std::string_view text);
+    template <class T>
+    void setNumber(int n, T v);
+    // "<file>, pole <n> <name>": the place a conversion of the field names when it fails.
+    std::string step(int n) const;
+    friend Record readRecord(SeqReader& in, const Schema& schema);
+
     const Schema* schema_ = nullptr;
-    std::vector<Item> items_;
+    std::vector<Slot> slots_;
+    std::string buf_;
+    std::uint32_t unused_ = 0;  // bytes of buf_ no field points at any more
 };
 
 // One record read item by item (Line fields by whole lines). Error 62 when the file ends

@@ -4,11 +4,13 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <sys/stat.h>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fstream>
 #include <random>
-#include <sstream>
+#include <utility>
 
 #include "core/error.h"
 #include "core/text.h"
@@ -17,107 +19,320 @@ namespace fs = std::filesystem;
 
 namespace core {
 
-std::string readFileText(const fs::path& path) {
+namespace {
+
+constexpr std::size_t kPart = 1 << 16;  // what a reader reads and a writer passes on at a time
+
+// Opens a file for reading: Error 53 when it is missing, 76 when its folder is, 75 when it
+// cannot be read.
+int openToRead(const fs::path& path) {
     std::error_code ec;
     if (!fs::exists(path, ec)) {
         if (!path.parent_path().empty() && !fs::exists(path.parent_path(), ec))
             throw Error(err::PathNotFound, path.string(), "brak folderu " + path.parent_path().string());
         throw Error(err::FileNotFound, path.string(), "brak pliku " + path.string());
     }
-    std::ifstream in(path, std::ios::binary);
-    if (!in) throw Error(err::PathFileAccess, path.string(), "nie można odczytać pliku " + path.string());
-    std::ostringstream ss;
-    ss << in.rdbuf();
-    if (in.bad()) throw Error(err::PathFileAccess, path.string(), "błąd odczytu pliku " + path.string());
-    return fromCp1250(ss.str());
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) throw Error(err::PathFileAccess, path.string(), "nie można odczytać pliku " + path.string());
+    return fd;
 }
 
-SeqReader::SeqReader(const fs::path& path) : text_(readFileText(path)), name_(path.filename().string()) {}
+// Appends up to `n` bytes of the file to `out`: how many, 0 at its end.
+std::size_t readPart(int fd, std::string& out, std::size_t n, const std::string& path) {
+    const std::size_t at = out.size();
+    out.resize(at + n);
+    for (;;) {
+        const ssize_t r = ::read(fd, out.data() + at, n);
+        if (r >= 0) {
+            out.resize(at + static_cast<std::size_t>(r));
+            return static_cast<std::size_t>(r);
+        }
+        if (errno != EINTR) {
+            out.resize(at);
+            throw Error(err::PathFileAccess, path, "błąd odczytu pliku " + path);
+        }
+    }
+}
+
+}  // namespace
+
+std::string readFileText(const fs::path& path) {
+    const int fd = openToRead(path);
+    std::string bytes;
+    try {
+        struct stat st{};
+        const std::size_t size = ::fstat(fd, &st) == 0 && st.st_size > 0 ? static_cast<std::size_t>(st.st_size) : 0;
+        bytes.reserve(size + 1);
+        while (readPart(fd, bytes, std::max(kPart, bytes.capacity() - bytes.size()), path.string()) > 0) {
+        }
+    } catch (...) {
+        ::close(fd);
+        throw;
+    }
+    ::close(fd);
+    return fromCp1250(bytes);
+}
+
+SeqReader::SeqReader(const fs::path& path)
+    : fd_(openToRead(path)), cp1250_(true), name_(path.filename().string()), path_(path.string()) {
+    fill();
+}
+
+SeqReader::SeqReader(SeqReader&& o) noexcept
+    : data_(std::move(o.data_)), pos_(o.pos_), lineEnd_(o.lineEnd_), fd_(std::exchange(o.fd_, -1)),
+      cp1250_(o.cp1250_), items_(o.items_), name_(std::move(o.name_)), path_(std::move(o.path_)) {}
+
+SeqReader& SeqReader::operator=(SeqReader&& o) noexcept {
+    if (this != &o) {
+        if (fd_ >= 0) ::close(fd_);
+        data_ = std::move(o.data_);
+        pos_ = o.pos_;
+        lineEnd_ = o.lineEnd_;
+        fd_ = std::exchange(o.fd_, -1);
+        cp1250_ = o.cp1250_;
+        items_ = o.items_;
+        name_ = std::move(o.name_);
+        path_ = std::move(o.path_);
+    }
+    return *this;
+}
+
+SeqReader::~SeqReader() {
+    if (fd_ >= 0) ::close(fd_);
+}
 
 SeqReader SeqReader::fromText(std::string text, std::string name) {
     SeqReader r;
-    r.text_ = std::move(text);
+    r.data_ = std::move(text);
     r.name_ = std::move(name);
     return r;
 }
 
-void SeqReader::skipLineEnd() {
-    if (pos_ < text_.size() && text_[pos_] == '\r') ++pos_;
-    if (pos_ < text_.size() && text_[pos_] == '\n') ++pos_;
+// The next part of the file after what is left of the last one; the file is closed at its end.
+void SeqReader::fill() {
+    if (fd_ < 0) return;
+    data_.erase(0, pos_);
+    lineEnd_ = lineEnd_ != std::string::npos && lineEnd_ >= pos_ ? lineEnd_ - pos_ : std::string::npos;
+    pos_ = 0;
+    std::size_t got = 0;
+    try {
+        got = readPart(fd_, data_, kPart, path_);
+    } catch (...) {
+        ::close(fd_);
+        fd_ = -1;
+        throw;
+    }
+    if (got == 0) {
+        ::close(fd_);
+        fd_ = -1;
+    }
 }
 
-Item SeqReader::item() {
+// Makes the line at pos_ whole in memory: its '\n' is read, or the file is.
+void SeqReader::wholeLine() {
+    if (lineEnd_ != std::string::npos && lineEnd_ >= pos_) return;
+    std::size_t from = pos_;
+    for (;;) {
+        const void* nl = std::memchr(data_.data() + from, '\n', data_.size() - from);
+        if (nl) {
+            lineEnd_ = static_cast<std::size_t>(static_cast<const char*>(nl) - data_.data());
+            return;
+        }
+        if (fd_ < 0) {
+            lineEnd_ = data_.size();
+            return;
+        }
+        const std::size_t searched = data_.size() - pos_;
+        fill();
+        from = pos_ + searched;
+    }
+}
+
+// After an item or a line: the next part is read once this one is taken, so that eof() knows.
+void SeqReader::next() {
+    if (pos_ >= data_.size()) fill();
+}
+
+void SeqReader::append(std::string& out, std::size_t from, std::size_t to) const {
+    if (cp1250_)
+        appendFromCp1250(out, std::string_view(data_).substr(from, to - from));
+    else
+        out.append(data_, from, to - from);
+}
+
+void SeqReader::skipLineEnd() {
+    if (pos_ < data_.size() && data_[pos_] == '\r') ++pos_;
+    if (pos_ < data_.size() && data_[pos_] == '\n') ++pos_;
+}
+
+Item::Kind SeqReader::itemInto(std::string& out) {
     if (eof())
         throw Error(err::InputPastEnd, name_ + ", pozycja " + std::to_string(items_ + 1),
                     "plik " + name_ + " skończył się w środku rekordu");
     ++items_;
-    const std::size_t n = text_.size();
-    while (pos_ < n && (text_[pos_] == ' ' || text_[pos_] == '\t')) ++pos_;
-    Item it;
-    if (pos_ < n && text_[pos_] == '"') {
-        // The line end is looked for only up to the closing quote: a long line of many items is
-        // read in one pass.
-        std::size_t close = text_.find('"', pos_ + 1);
-        const std::size_t upTo = close == std::string::npos ? n : close;
-        std::size_t lineEnd = std::string_view(text_).substr(0, upTo).find_first_of("\r\n", pos_ + 1);
-        if (close == std::string::npos || lineEnd != std::string::npos) {
+    wholeLine();
+    const std::size_t n = lineEnd_ < data_.size() ? lineEnd_ + 1 : data_.size();  // the line's end, '\n' included
+    const char* d = data_.data();
+    while (pos_ < n && (d[pos_] == ' ' || d[pos_] == '\t')) ++pos_;
+    Item::Kind kind;
+    if (pos_ < n && d[pos_] == '"') {
+        const void* q = std::memchr(d + pos_ + 1, '"', n - pos_ - 1);
+        const std::size_t close = q ? static_cast<std::size_t>(static_cast<const char*>(q) - d) : std::string::npos;
+        const std::size_t upTo = q ? close : n;
+        std::size_t lineEnd = pos_ + 1;
+        while (lineEnd < upTo && d[lineEnd] != '\r' && d[lineEnd] != '\n') ++lineEnd;
+        if (!q || lineEnd < upTo) {
             // An unclosed quote runs to the end of the line.
-            std::size_t end = lineEnd == std::string::npos ? n : lineEnd;
-            it = Item::quoted(text_.substr(pos_ + 1, end - pos_ - 1));
-            pos_ = end;
+            append(out, pos_ + 1, lineEnd);
+            pos_ = lineEnd;
         } else {
-            it = Item::quoted(text_.substr(pos_ + 1, close - pos_ - 1));
+            append(out, pos_ + 1, close);
             pos_ = close + 1;
         }
+        kind = Item::Quoted;
         // Whatever stands between the closing quote and the separator is passed over.
-        while (pos_ < n && text_[pos_] != ',' && text_[pos_] != '\r' && text_[pos_] != '\n') ++pos_;
+        while (pos_ < n && d[pos_] != ',' && d[pos_] != '\r' && d[pos_] != '\n') ++pos_;
     } else {
-        std::size_t start = pos_;
-        while (pos_ < n && text_[pos_] != ',' && text_[pos_] != '\r' && text_[pos_] != '\n') ++pos_;
-        it = Item::bare(RTrim(std::string_view(text_).substr(start, pos_ - start)));
+        const std::size_t start = pos_;
+        while (pos_ < n && d[pos_] != ',' && d[pos_] != '\r' && d[pos_] != '\n') ++pos_;
+        std::size_t end = pos_;
+        while (end > start && d[end - 1] == ' ') --end;
+        append(out, start, end);
+        kind = end > start ? Item::Bare : Item::Empty;
     }
-    if (pos_ < n && text_[pos_] == ',')
+    if (pos_ < data_.size() && d[pos_] == ',')
         ++pos_;
     else
         skipLineEnd();
+    next();
+    return kind;
+}
+
+Item SeqReader::item() {
+    Item it;
+    it.kind = itemInto(it.text);
     return it;
 }
 
-std::string SeqReader::line() {
+void SeqReader::lineInto(std::string& out) {
     if (eof())
         throw Error(err::InputPastEnd, name_ + ", pozycja " + std::to_string(items_ + 1),
                     "plik " + name_ + " skończył się w środku rekordu");
     ++items_;
-    std::size_t end = text_.find_first_of("\r\n", pos_);
-    if (end == std::string::npos) end = text_.size();
-    std::string s = text_.substr(pos_, end - pos_);
+    wholeLine();
+    std::size_t end = pos_;
+    const std::size_t n = std::min(lineEnd_, data_.size());
+    while (end < n && data_[end] != '\r') ++end;
+    append(out, pos_, end);
     pos_ = end;
     skipLineEnd();
+    next();
+}
+
+std::string SeqReader::line() {
+    std::string s;
+    lineInto(s);
     return s;
+}
+
+// --- Writing ----------------------------------------------------------------------------------
+
+namespace {
+
+// The steps of a safe rewrite (see commitFile): a fresh temporary file beside the target, the
+// bytes into it, then synced and renamed over the target.
+struct Rewrite {
+    fs::path target, folder, temp;
+    int fd = -1;
+    explicit Rewrite(const fs::path& t);
+    void write(std::string_view bytes);
+    void finish();
+    void abandon() noexcept;
+    [[noreturn]] void fail(const char* what);
+};
+
+}  // namespace
+
+struct SeqWriter::File {
+    Rewrite rewrite;
+    explicit File(const fs::path& target) : rewrite(target) {}
+};
+
+SeqWriter::SeqWriter() = default;
+
+SeqWriter SeqWriter::toFile(const fs::path& target, const std::string& /*tempName*/) {
+    SeqWriter w;
+    w.file_ = std::make_unique<File>(target);
+    return w;
+}
+
+SeqWriter::SeqWriter(SeqWriter&& o) noexcept
+    : buf_(std::move(o.buf_)), spilled_(o.spilled_), file_(std::move(o.file_)) {}
+
+SeqWriter& SeqWriter::operator=(SeqWriter&& o) noexcept {
+    if (this != &o) {
+        if (file_) file_->rewrite.abandon();
+        buf_ = std::move(o.buf_);
+        spilled_ = o.spilled_;
+        file_ = std::move(o.file_);
+    }
+    return *this;
+}
+
+SeqWriter::~SeqWriter() {
+    if (file_) file_->rewrite.abandon();
+}
+
+// A writer into a file passes on what it holds once it holds a part; every write is whole in
+// it, so no character is ever cut.
+void SeqWriter::spill(bool all) {
+    if (!file_ || buf_.empty() || (!all && buf_.size() < kPart)) return;
+    file_->rewrite.write(toCp1250(buf_, file_->rewrite.target.string()));
+    buf_.clear();
+    spilled_ = true;
+}
+
+void SeqWriter::put(Item::Kind kind, std::string_view text, bool first) {
+    if (!first) buf_ += ',';
+    if (kind == Item::Quoted) {
+        buf_ += '"';
+        buf_.append(text);
+        buf_ += '"';
+    } else if (kind == Item::Bare) {
+        buf_.append(text);
+    }
+}
+
+void SeqWriter::endWrite() {
+    buf_ += "\r\n";
+    spill(false);
 }
 
 void SeqWriter::write(const std::vector<Item>& items) {
     for (std::size_t i = 0; i < items.size(); ++i)
         if (items[i].kind == Item::Quoted && items[i].text.find('"') != std::string::npos)
             throw TextRefused("pozycja " + std::to_string(i + 1), "pozycja " + std::to_string(i + 1), 0);
-    bool first = true;
-    for (const Item& it : items) {
-        if (!first) buf_ += ',';
-        first = false;
-        if (it.kind == Item::Quoted) {
-            buf_ += '"';
-            buf_ += it.text;
-            buf_ += '"';
-        } else if (it.kind == Item::Bare) {
-            buf_ += it.text;
-        }
-    }
-    buf_ += "\r\n";
+    for (std::size_t i = 0; i < items.size(); ++i) put(items[i].kind, items[i].text, i == 0);
+    endWrite();
+}
+
+void SeqWriter::write(const Item& item) {
+    if (item.kind == Item::Quoted && item.text.find('"') != std::string::npos)
+        throw TextRefused("pozycja 1", "pozycja 1", 0);
+    put(item.kind, item.text, true);
+    endWrite();
 }
 
 void SeqWriter::print(std::string_view line) {
     buf_.append(line);
-    buf_ += "\r\n";
+    endWrite();
+}
+
+void SeqWriter::commit() {
+    if (!file_) return;
+    spill(true);
+    file_->rewrite.finish();
+    file_.reset();
 }
 
 void commitFile(const fs::path& target, const std::string& utf8, const std::string& tempName) {
@@ -164,25 +379,35 @@ static int createTemp(const fs::path& folder, const fs::path& target, fs::path& 
     return -1;
 }
 
-void commitBytes(const fs::path& target, const std::string& bytes, const std::string& /*tempName*/) {
-    fs::path folder = target.parent_path();
+namespace {
+
+Rewrite::Rewrite(const fs::path& t) : target(t), folder(t.parent_path()) {
     if (folder.empty()) folder = ".";
     std::error_code ec;
     if (!fs::is_directory(folder, ec))
         throw Error(err::PathNotFound, target.string(), "brak folderu " + folder.string());
     removeLeftovers(folder, target);
-    fs::path temp;
-    int fd = createTemp(folder, target, temp);
+    fd = createTemp(folder, target, temp);
     if (fd < 0)
         throw Error(err::PathFileAccess, target.string(),
                     "nie można zapisać w folderze " + folder.string() + " (" + std::strerror(errno) + ")");
-    auto fail = [&](const char* what) {
-        int e = errno;
-        ::close(fd);
-        fs::remove(temp, ec);
-        throw Error(err::PathFileAccess, target.string(),
-                    std::string(what) + " " + temp.string() + " (" + std::strerror(e) + ")");
-    };
+}
+
+void Rewrite::fail(const char* what) {
+    const int e = errno;
+    abandon();
+    throw Error(err::PathFileAccess, target.string(), std::string(what) + " " + temp.string() + " (" + std::strerror(e) + ")");
+}
+
+void Rewrite::abandon() noexcept {
+    if (fd < 0) return;
+    ::close(fd);
+    fd = -1;
+    std::error_code ec;
+    fs::remove(temp, ec);
+}
+
+void Rewrite::write(std::string_view bytes) {
     std::size_t done = 0;
     while (done < bytes.size()) {
         ssize_t w = ::write(fd, bytes.data() + done, bytes.size() - done);
@@ -192,8 +417,14 @@ void commitBytes(const fs::path& target, const std::string& bytes, const std::st
         }
         done += static_cast<std::size_t>(w);
     }
+}
+
+void Rewrite::finish() {
     if (::fsync(fd) != 0) fail("błąd zapisu pliku");
-    if (::close(fd) != 0) {
+    std::error_code ec;
+    const int closed = ::close(fd);
+    fd = -1;
+    if (closed != 0) {
         int e = errno;
         fs::remove(temp, ec);
         throw Error(err::PathFileAccess, target.string(), "błąd zapisu pliku (" + std::string(std::strerror(e)) + ")");
@@ -209,6 +440,14 @@ void commitBytes(const fs::path& target, const std::string& bytes, const std::st
         ::fsync(dfd);
         ::close(dfd);
     }
+}
+
+}  // namespace
+
+void commitBytes(const fs::path& target, const std::string& bytes, const std::string& /*tempName*/) {
+    Rewrite r(target);
+    r.write(bytes);
+    r.finish();
 }
 
 }  // namespace core

@@ -3,6 +3,7 @@
 // write separated by commas) and read back item by item or line by line.
 #pragma once
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,48 +22,88 @@ struct Item {
     bool operator==(const Item&) const = default;
 };
 
-// Reads a whole file (decoded to UTF-8) and hands out its items. `name` is used in errors.
+// Hands out the items of a file, decoded to UTF-8. A file is read part by part as its items are
+// taken, never whole: a reader keeps at most the lines not yet taken of its current part.
+// `name` is used in errors.
 class SeqReader {
 public:
     // Opens `path`: Error 53 when the file is missing, 76 when its folder is, 75 when it cannot
-    // be read.
+    // be read (also when a later part cannot be).
     explicit SeqReader(const std::filesystem::path& path);
     // A reader over text already in memory (UTF-8), for tests and for files read whole.
     static SeqReader fromText(std::string text, std::string name = "tekst");
+    SeqReader(SeqReader&& o) noexcept;
+    SeqReader& operator=(SeqReader&& o) noexcept;
+    SeqReader(const SeqReader&) = delete;
+    SeqReader& operator=(const SeqReader&) = delete;
+    ~SeqReader();
 
-    bool eof() const { return pos_ >= text_.size(); }
+    bool eof() const { return pos_ >= data_.size() && fd_ < 0; }
     // The next item (Input #): Error 62 past the end.
     Item item();
     // The next item's text, whatever its kind.
     std::string text() { return item().text; }
     // The rest of the current line, without its end (Line Input #): Error 62 past the end.
     std::string line();
+    // The same two, the text appended to `out` instead of made anew: the item's kind.
+    Item::Kind itemInto(std::string& out);
+    void lineInto(std::string& out);
     // Number of items read so far (used to name the failing item in errors).
     long itemsRead() const { return items_; }
     const std::string& name() const { return name_; }
 
 private:
     SeqReader() = default;
+    void fill();
+    void wholeLine();
+    void next();
     void skipLineEnd();
-    std::string text_;
+    void append(std::string& out, std::size_t from, std::size_t to) const;
+    std::string data_;                   // the part not yet taken: CP1250 from a file, UTF-8 from a text
     std::size_t pos_ = 0;
+    std::size_t lineEnd_ = std::string::npos;  // a '\n' at or after pos_, or the end of the last part
+    int fd_ = -1;                        // open while the file has parts not yet read
+    bool cp1250_ = false;
     long items_ = 0;
     std::string name_;
+    std::string path_;
 };
 
-// Collects the writes of one file in memory; commitFile() puts them on disk safely.
+// Collects the writes of one file: in memory, for commitFile() to put on disk safely, or, made by
+// toFile(), straight into a fresh temporary file beside its target that commit() renames over it.
 class SeqWriter {
 public:
+    SeqWriter();
+    // A writer into `target` as commitFile writes it (see there), the writes encoded and passed
+    // on part by part as they are made. Nothing of the target changes before commit(); a writer
+    // destroyed without it removes its temporary file.
+    static SeqWriter toFile(const std::filesystem::path& target, const std::string& tempName = {});
+    SeqWriter(SeqWriter&& o) noexcept;
+    SeqWriter& operator=(SeqWriter&& o) noexcept;
+    SeqWriter(const SeqWriter&) = delete;
+    SeqWriter& operator=(const SeqWriter&) = delete;
+    ~SeqWriter();
+
     // One sequential write: the items separated by commas, then CR LF.
     void write(const std::vector<Item>& items);
-    void write(const Item& item) { write(std::vector<Item>{item}); }
+    void write(const Item& item);
     // A line printed as it is, then CR LF.
     void print(std::string_view line);
+    // One write made item by item: a quoted item holding a double quote is refused by the caller.
+    void put(Item::Kind kind, std::string_view text, bool first);
+    void endWrite();
+    // What was written (of a writer into a file: what has not yet gone to it).
     const std::string& text() const { return buf_; }
-    bool empty() const { return buf_.empty(); }
+    bool empty() const { return buf_.empty() && !spilled_; }
+    // A writer made by toFile(): the rest written, synced and renamed over the target.
+    void commit();
 
 private:
+    struct File;
+    void spill(bool all);
     std::string buf_;
+    bool spilled_ = false;
+    std::unique_ptr<File> file_;
 };
 
 // Reads a whole file as UTF-8 text: Error 53/76/75 as SeqReader.

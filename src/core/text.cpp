@@ -3,6 +3,7 @@
 #include <iconv.h>
 
 #include <array>
+#include <charconv>
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
@@ -161,6 +162,12 @@ std::string toCp1250(std::string_view utf8, const std::string& step) {
     std::string out;
     out.reserve(utf8.size());
     for (std::size_t i = 0; i < utf8.size();) {
+        // A run of ASCII goes as it is.
+        std::size_t run = i;
+        while (run < utf8.size() && static_cast<unsigned char>(utf8[run]) < 0x80) ++run;
+        out.append(utf8.data() + i, run - i);
+        i = run;
+        if (i == utf8.size()) break;
         char32_t cp = nextCp(utf8, i);
         if (cp < 0x80) {
             out += static_cast<char>(cp);
@@ -178,19 +185,25 @@ std::string toCp1250(std::string_view utf8, const std::string& step) {
     return out;
 }
 
+void appendFromCp1250(std::string& out, std::string_view bytes) {
+    const char* p = bytes.data();
+    const char* const end = p + bytes.size();
+    while (p < end) {
+        // A run of ASCII goes as it is.
+        const char* run = p;
+        while (run < end && static_cast<unsigned char>(*run) < 0x80) ++run;
+        out.append(p, static_cast<std::size_t>(run - p));
+        if (run == end) break;
+        const char32_t cp = table().upper[static_cast<unsigned char>(*run) - 0x80];
+        appendUtf8(out, cp ? cp : 0xFFFD);
+        p = run + 1;
+    }
+}
+
 std::string fromCp1250(std::string_view bytes) {
-    const auto& t = table();
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 8);
-    for (char c : bytes) {
-        unsigned char b = static_cast<unsigned char>(c);
-        if (b < 0x80) {
-            out += c;
-        } else {
-            char32_t cp = t.upper[b - 0x80];
-            appendUtf8(out, cp ? cp : 0xFFFD);
-        }
-    }
+    appendFromCp1250(out, bytes);
     return out;
 }
 
@@ -294,41 +307,63 @@ std::string KropkaZamiastPrzecinka(std::string&& s) {
     return KropkaZamiastPrzecinka(t);
 }
 
+namespace {
+
+// A number text already checked for its form (an optional sign, digits with at most one point,
+// an optional exponent), converted as strtod converts it in the C locale: the nearest double.
+// Beyond the range of a double the result is infinite as strtod's; an underflow is left to
+// strtod itself, which gives the denormal or zero it always gave.
+double convert(std::string_view t) {
+    if (!t.empty() && t.front() == '+') t.remove_prefix(1);
+    double v = 0;
+    const auto r = std::from_chars(t.data(), t.data() + t.size(), v, std::chars_format::general);
+    if (r.ec == std::errc() && r.ptr == t.data() + t.size()) return v;
+    return std::strtod(std::string(t).c_str(), nullptr);
+}
+
+}  // namespace
+
 double Val(std::string_view s) {
-    std::string digits;
+    // The digits taken, blanks between them dropped: at most as long as the text itself.
+    char small[64];
+    std::string large;
+    char* digits = small;
+    if (s.size() + 2 > sizeof small) {
+        large.resize(s.size() + 2);
+        digits = large.data();
+    }
+    std::size_t n = 0;
     std::size_t i = 0;
-    auto skip = [&] {
-        while (i < s.size() && (s[i] == ' ' || s[i] == '\t' || s[i] == '\n' || s[i] == '\r')) ++i;
-    };
-    skip();
-    if (i < s.size() && (s[i] == '-' || s[i] == '+')) digits += s[i++];
+    while (i < s.size() && (s[i] == ' ' || s[i] == '\t' || s[i] == '\n' || s[i] == '\r')) ++i;
+    if (i < s.size() && (s[i] == '-' || s[i] == '+')) digits[n++] = s[i++];
     bool point = false, any = false;
     for (; i < s.size(); ++i) {
         char c = s[i];
         if (c == ' ' || c == '\t') continue;
         if (c >= '0' && c <= '9') {
-            digits += c;
+            digits[n++] = c;
             any = true;
         } else if (c == '.' && !point) {
-            digits += c;
+            digits[n++] = c;
             point = true;
         } else if ((c == 'E' || c == 'e' || c == 'D' || c == 'd') && any) {
             std::size_t j = i + 1;
-            std::string exp = "e";
-            if (j < s.size() && (s[j] == '-' || s[j] == '+')) exp += s[j++];
+            std::size_t e = n;
+            digits[e++] = 'e';
+            if (j < s.size() && (s[j] == '-' || s[j] == '+')) digits[e++] = s[j++];
             bool expDigits = false;
             while (j < s.size() && s[j] >= '0' && s[j] <= '9') {
-                exp += s[j++];
+                digits[e++] = s[j++];
                 expDigits = true;
             }
-            if (expDigits) digits += exp;
+            if (expDigits) n = e;
             break;
         } else {
             break;
         }
     }
     if (!any) return 0.0;
-    double v = std::strtod(digits.c_str(), nullptr);
+    double v = convert(std::string_view(digits, n));
     if (!std::isfinite(v))
         throw Error(err::Overflow, "Val(\"" + std::string(s) + "\")", "liczba \"" + std::string(s) + "\" jest za duża");
     return v;
@@ -348,8 +383,16 @@ int ValInt(std::string_view s, const std::string& step) {
     }
 }
 
-bool isNumeric(std::string_view s) {
-    std::string t = Trim(s);
+namespace {
+
+std::string_view trimmed(std::string_view s) {
+    while (!s.empty() && isBlank(s.front())) s.remove_prefix(1);
+    while (!s.empty() && isBlank(s.back())) s.remove_suffix(1);
+    return s;
+}
+
+// Whether a text without blanks around it is a number as the strict conversion takes it.
+bool numberForm(std::string_view t) {
     if (t.empty()) return false;
     std::size_t i = 0;
     if (t[i] == '-' || t[i] == '+') ++i;
@@ -374,18 +417,37 @@ bool isNumeric(std::string_view s) {
     return digits;
 }
 
+}  // namespace
+
+bool isNumeric(std::string_view s) { return numberForm(trimmed(s)); }
+
+NumberText parseNumber(std::string_view s, double& v) {
+    const std::string_view t = trimmed(s);
+    if (t.empty()) return NumberText::Empty;
+    if (!numberForm(t)) return NumberText::NotNumber;
+    v = convert(t);
+    return std::isfinite(v) ? NumberText::Ok : NumberText::TooLarge;
+}
+
+void throwNumber(NumberText why, std::string_view s, const std::string& step) {
+    if (why == NumberText::TooLarge)
+        throw Error(err::Overflow, step, "liczba \"" + std::string(trimmed(s)) + "\" jest za duża");
+    throw Error(err::TypeMismatch, step, "\"" + std::string(s) + "\" nie jest liczbą");
+}
+
 double toDouble(std::string_view s, const std::string& step) {
-    if (!isNumeric(s))
-        throw Error(err::TypeMismatch, step, "\"" + std::string(s) + "\" nie jest liczbą");
-    std::string t = Trim(s);
-    double v = std::strtod(t.c_str(), nullptr);
-    if (!std::isfinite(v)) throw Error(err::Overflow, step, "liczba \"" + t + "\" jest za duża");
+    double v = 0;
+    const NumberText r = parseNumber(s, v);
+    if (r != NumberText::Ok) throwNumber(r, s, step);
     return v;
 }
 
 double toDoubleOrZero(std::string_view s, const std::string& step) {
-    if (Trim(s).empty()) return 0.0;
-    return toDouble(s, step);
+    double v = 0;
+    const NumberText r = parseNumber(s, v);
+    if (r == NumberText::Empty) return 0.0;
+    if (r != NumberText::Ok) throwNumber(r, s, step);
+    return v;
 }
 
 }  // namespace core

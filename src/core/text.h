@@ -10,6 +10,8 @@ namespace core {
 // Code page 1250 <-> UTF-8. Encoding a character CP1250 cannot hold throws Error 5 naming it.
 std::string toCp1250(std::string_view utf8, const std::string& step = "zapis pliku");
 std::string fromCp1250(std::string_view bytes);
+// fromCp1250 appended to `out`.
+void appendFromCp1250(std::string& out, std::string_view bytes);
 
 // Character counts and slices (1-based start, as Mid$).
 std::size_t Len(std::string_view s);
@@ -54,5 +56,11 @@ double toDouble(std::string_view s, const std::string& step);
 // The same, but empty text gives 0 (an empty item read into a number).
 double toDoubleOrZero(std::string_view s, const std::string& step);
 bool isNumeric(std::string_view s);
+// The strict conversion without its step, for the readers that name the failing place only when
+// there is one: the number in `v`, or why the text is none (Empty: nothing but blanks).
+enum class NumberText : unsigned char { Ok, Empty, NotNumber, TooLarge };
+NumberText parseNumber(std::string_view s, double& v);
+// The error toDouble raises at `step` for a text that parseNumber refused.
+[[noreturn]] void throwNumber(NumberText why, std::string_view s, const std::string& step);
 
 }  // namespace core

@@ -30,7 +30,13 @@ void przepisz(Record& r, int n, const core::Item& it) {
     case core::FieldType::String:
     case core::FieldType::Line: r.set(n, it.text); break;
     case core::FieldType::Blank: break;
-    default: r.set(n, core::toDoubleOrZero(it.text, "kartoteka, pole " + std::to_string(n) + " " + r.fieldName(n)));
+    default: {
+        double v = 0;
+        const core::NumberText jak = core::parseNumber(it.text, v);
+        if (jak != core::NumberText::Ok && jak != core::NumberText::Empty)
+            core::throwNumber(jak, it.text, "kartoteka, pole " + std::to_string(n) + " " + r.fieldName(n));
+        r.set(n, v);
+    }
     }
 }
 
@@ -133,7 +139,9 @@ int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep, 
     const std::vector<Record>& osoby = z.osobowe.rekordy();
     const int ile = static_cast<int>(osoby.size());
 
-    core::SeqWriter out;
+    // The ledger goes to its file as it is made; it replaces the old one only once it is whole.
+    core::ensureFolder(s.payerFolder(), {"karta"});
+    core::SeqWriter out = core::SeqWriter::toFile(Karta::path(s), "tym" + s.NazwaZbioru + ".dta");
     int liczba = 0;
     postep(0, ile, 0);
     for (int i = 0; i < ile; ++i) {
@@ -161,8 +169,7 @@ int wykonajKartoteke(core::Session& s, core::Dialogs& ui, const Postep& postep, 
     // the command.
     if (z.osobowe.blad()) throw *z.osobowe.blad();
 
-    core::ensureFolder(s.payerFolder(), {"karta"});
-    core::commitFile(Karta::path(s), out, "tym" + s.NazwaZbioru + ".dta");
+    out.commit();
     s.LiczbaOsob = liczba;
     return liczba;
 }

@@ -82,12 +82,15 @@ bool cmdZerowanie(core::Session& s, core::Dialogs& ui, const Postep& postep) {
     const int koniec = s.LiczbaOsob + 1;
     postep(1, koniec, 1);
 
-    // 6.
-    std::vector<Record> nowe;
-    nowe.reserve(place.size());
+    // 6. Each record goes to the new pay file as soon as it is done; the file replaces the old
+    // one only once it is whole.
+    core::SeqWriter nowe = core::SeqWriter::toFile(Pay::path(s), "TYMCZ.dta");
+    std::vector<Record> jeden(1);
+    long numer = 0;
     int n = 1;
     for (const Record& stary : place) {
-        Record r = stary;
+        Record& r = jeden[0];
+        r = stary;
         // a.
         const std::string obywatelstwo = r.s(Pay::Obywatelstwo);
         if (obywatelstwo.empty() || obywatelstwo[0] == '0') r.set(Pay::Obywatelstwo, "POLSKIE");
@@ -132,12 +135,13 @@ bool cmdZerowanie(core::Session& s, core::Dialogs& ui, const Postep& postep) {
         }
         // j.
         r.set(Pay::DataZerowania, dataZerowania);
-        nowe.push_back(std::move(r));
+        // 7. Numbered in the order of the file.
+        Pay::renumber(jeden);
+        r.set(Pay::Numer, ++numer);
+        core::writeRecord(nowe, r);
         postep(1, koniec, std::min(++n, koniec));
     }
-    // 7.
-    Pay::renumber(nowe);
-    core::writeAll(Pay::path(s), nowe, "TYMCZ.dta");
+    nowe.commit();
     return true;
 }
 

@@ -258,3 +258,51 @@ TEST(Records, BlankPositionsAreAlwaysWrittenEmpty) {
     writeRecord(w, r);
     EXPECT_EQ(w.text(), "\"x\"\r\n\r\n1.5\r\n");
 }
+
+TEST(Records, LongFilesAreReadAndWrittenPartByPart) {
+    // Records long enough to cross the parts a file is read in, at every place of a record and
+    // of a letter: each read as from the whole text, each written back byte for byte.
+    std::string file;
+    for (int i = 0; i < 6000; ++i) {
+        const std::string n = std::to_string(i);
+        file += "\"<Poczatek>\"\r\n\"Żółć, " + n + "ąę\"\r\n" + n + ".5\r\n" + (i % 3 ? "\"ś" + n + "\"" : n) + "\r\n\r\n" +
+                std::to_string(i % 30000) + "\r\n0.0" + n + "\r\n\"<Koniec>\"\r\n";
+    }
+    TempDir dir;
+    const auto path = dir / "dlugi.dta";
+    commitFile(path, file);
+    const auto zPliku = readAll(path, kTest);
+    auto tekst = SeqReader::fromText(file);
+    const auto zTekstu = readAll(tekst, kTest);
+    ASSERT_EQ(zPliku.size(), 6000u);
+    ASSERT_EQ(zTekstu.size(), 6000u);
+    for (std::size_t r = 0; r < zPliku.size(); ++r)
+        for (int n = 1; n <= kTest.size(); ++n) ASSERT_EQ(zPliku[r].item(n), zTekstu[r].item(n)) << r << " " << n;
+    {
+        SeqWriter w = SeqWriter::toFile(path);
+        for (std::size_t r = 0; r < 3000; ++r) writeRecord(w, zPliku[r]);
+        // Destroyed before its commit: the file stays as it was, nothing else is left.
+    }
+    EXPECT_EQ(readBytes(path), toCp1250(file));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 1);
+    SeqWriter w = SeqWriter::toFile(path);
+    for (const Record& r : zPliku) writeRecord(w, r);
+    w.commit();
+    EXPECT_EQ(readBytes(path), toCp1250(file));
+}
+
+TEST(Records, ChangedFieldsKeepEveryOtherItem) {
+    // Texts growing and shrinking many times over: each field holds what was stored last.
+    Record r(kTest);
+    std::string want[9];
+    for (int k = 0; k < 400; ++k)
+        for (int n : {1, 2, 4, 8}) {
+            want[n] = std::string(static_cast<std::size_t>((k * 7 + n * 13) % 90), static_cast<char>('a' + n)) + "ż";
+            r.set(n, want[n]);
+            r.set(3, static_cast<float>(k));
+        }
+    for (int n : {1, 2, 4, 8}) EXPECT_EQ(r.s(n), want[n]) << n;
+    EXPECT_EQ(r.s(3), "399");
+    r.setItem(4, r.item(2));
+    EXPECT_EQ(r.item(4), Item::quoted(want[2]));
+}
