@@ -59,7 +59,7 @@ std::string nazwa(const testing::TestParamInfo<Row>& i) {
 // The check of a row: each named field of the result block, as the report gives it, has the value.
 std::function<void(const WynikMiesiaca&)> pola(std::vector<std::pair<std::string, double>> oczekiwane) {
     return [oczekiwane](const WynikMiesiaca& w) {
-        for (const auto& [pole, v] : oczekiwane) EXPECT_FLOAT_EQ(std::stod(fx::pole(w, pole)), v) << pole;
+        for (const auto& [pole, v] : oczekiwane) EXPECT_FLOAT_EQ(static_cast<float>(std::stod(fx::pole(w, pole))), static_cast<float>(v)) << pole;
     };
 }
 
