@@ -31,8 +31,8 @@ public:
     void copy(const std::function<void(std::string_view)>& out);
 
 private:
-    std::FILE* file_;
-    bool first_ = true;
+    std::FILE* plikTymczasowy;
+    bool pierwszaStrona = true;
 };
 
 // Boxes go to standard error as "[title] text"; questions are answered by --yes / --no, or on

@@ -7,27 +7,27 @@
 
 namespace cli {
 
-TextSpool::TextSpool() : file_(std::tmpfile()) {
-    if (!file_) throw core::Error(core::err::PathFileAccess, "wydruk", "nie można utworzyć pliku tymczasowego wydruku");
+TextSpool::TextSpool() : plikTymczasowy(std::tmpfile()) {
+    if (!plikTymczasowy) throw core::Error(core::err::PathFileAccess, "wydruk", "nie można utworzyć pliku tymczasowego wydruku");
 }
 
-TextSpool::~TextSpool() { std::fclose(file_); }
+TextSpool::~TextSpool() { std::fclose(plikTymczasowy); }
 
 void TextSpool::beginPage() {
-    if (!first_) std::fputc('\f', file_);
-    first_ = false;
+    if (!pierwszaStrona) std::fputc('\f', plikTymczasowy);
+    pierwszaStrona = false;
 }
 
 void TextSpool::line(const core::PrintLine& l) {
-    if (std::fwrite(l.text.data(), 1, l.text.size(), file_) != l.text.size() || std::fputc('\n', file_) == EOF)
+    if (std::fwrite(l.text.data(), 1, l.text.size(), plikTymczasowy) != l.text.size() || std::fputc('\n', plikTymczasowy) == EOF)
         throw core::Error(core::err::PathFileAccess, "wydruk", "błąd zapisu pliku tymczasowego wydruku");
 }
 
 void TextSpool::copy(const std::function<void(std::string_view)>& out) {
-    if (std::fflush(file_) != 0 || std::fseek(file_, 0, SEEK_SET) != 0)
+    if (std::fflush(plikTymczasowy) != 0 || std::fseek(plikTymczasowy, 0, SEEK_SET) != 0)
         throw core::Error(core::err::PathFileAccess, "wydruk", "błąd odczytu pliku tymczasowego wydruku");
     char buf[1 << 16];
-    for (std::size_t n; (n = std::fread(buf, 1, sizeof buf, file_)) > 0;) out(std::string_view(buf, n));
+    for (std::size_t n; (n = std::fread(buf, 1, sizeof buf, plikTymczasowy)) > 0;) out(std::string_view(buf, n));
 }
 
 void Context::takePrintOptions() {

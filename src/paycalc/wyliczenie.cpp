@@ -27,15 +27,15 @@ namespace paycalc {
 // --- Files read once ------------------------------------------------------------------------
 
 Zbior::Zbior(std::vector<Record> records, std::string (*klucz)(const Record&), std::optional<core::Error> blad)
-    : records_(std::move(records)), blad_(std::move(blad)) {
-    first_.reserve(records_.size());
-    for (std::size_t i = 0; i < records_.size(); ++i) first_.emplace(klucz(records_[i]), i);
+    : rekordyPliku(std::move(records)), bladOdczytu(std::move(blad)) {
+    pierwszyNumeru.reserve(rekordyPliku.size());
+    for (std::size_t i = 0; i < rekordyPliku.size(); ++i) pierwszyNumeru.emplace(klucz(rekordyPliku[i]), i);
 }
 
 const Record* Zbior::znajdz(const std::string& key) const {
-    auto it = first_.find(key);
-    if (it != first_.end()) return &records_[it->second];
-    if (blad_) throw *blad_;
+    auto it = pierwszyNumeru.find(key);
+    if (it != pierwszyNumeru.end()) return &rekordyPliku[it->second];
+    if (bladOdczytu) throw *bladOdczytu;
     return nullptr;
 }
 

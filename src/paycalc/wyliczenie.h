@@ -29,13 +29,13 @@ public:
     // The first record with the key, or nullptr when the file has none (or the error).
     const core::Record* znajdz(const std::string& key) const;
     // The records read, in file order, and the fault that ended the reading, if any.
-    const std::vector<core::Record>& rekordy() const { return records_; }
-    const std::optional<core::Error>& blad() const { return blad_; }
+    const std::vector<core::Record>& rekordy() const { return rekordyPliku; }
+    const std::optional<core::Error>& blad() const { return bladOdczytu; }
 
 private:
-    std::vector<core::Record> records_;
-    std::unordered_map<std::string, std::size_t> first_;
-    std::optional<core::Error> blad_;
+    std::vector<core::Record> rekordyPliku;
+    std::unordered_map<std::string, std::size_t> pierwszyNumeru;
+    std::optional<core::Error> bladOdczytu;
 };
 
 // The files of one list that the calculation reads, loaded once: a command that visits every

@@ -169,12 +169,12 @@ OsobaNaLiscie wyliczOsobe(const core::Record& r, const core::Stawki& st) {
 }
 
 DrukListy::DrukListy(core::Session& session, core::Dialogs& dialogs, core::Printer& printer)
-    : s(session), ui(dialogs), printer_(printer) {}
+    : s(session), ui(dialogs), papier(printer) {}
 
 core::Printer& DrukListy::drukarka() {
-    int st = printer_.status();
+    int st = papier.status();
     if (st != 0) throw core::Error(st, "drukarka", st == core::err::OutOfPaper ? "brak papieru" : "drukarka nie odpowiada");
-    return printer_;
+    return papier;
 }
 
 bool DrukListy::bladDrukarki(core::Dialogs& ui, const core::Error& e) {

@@ -90,7 +90,7 @@ private:
 
     core::Session& s;
     core::Dialogs& ui;
-    core::Printer& printer_;
+    core::Printer& papier;
 };
 
 // The commands of the workspace: "&Druk listy płac" and "p&Aski", on the program's printer.

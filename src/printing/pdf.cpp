@@ -49,14 +49,14 @@ constexpr int kEncoding = 1, kRegular = 2, kBold = 3, kPages = 4, kFirstPage = 5
 
 class PdfWriter : public core::PageSink {
 public:
-    PdfWriter(const std::filesystem::path& file, const Sheet& sheet) : out_(file), sheet_(sheet) {}
+    PdfWriter(const std::filesystem::path& file, const Sheet& sheet) : wyjscie(file), arkusz(sheet) {}
 
     void object(const std::string& body) {
-        offsets_.push_back(out_.size());
-        out_.write(std::to_string(offsets_.size()) + " 0 obj\n" + body + "\nendobj\n");
+        polozenia.push_back(wyjscie.size());
+        wyjscie.write(std::to_string(polozenia.size()) + " 0 obj\n" + body + "\nendobj\n");
     }
     void head(int pages) {
-        out_.write("%PDF-1.4\n%\xE2\xE3\xCF\xD3\n");
+        wyjscie.write("%PDF-1.4\n%\xE2\xE3\xCF\xD3\n");
         const std::string enc = std::to_string(kEncoding) + " 0 R";
         object(std::string("<< /Type /Encoding /BaseEncoding /WinAnsiEncoding /Differences ") + kDifferences + " >>");
         object("<< /Type /Font /Subtype /Type1 /BaseFont /Courier /Encoding " + enc + " >>");
@@ -67,56 +67,56 @@ public:
     }
     void beginPage() override {
         endPage();
-        open_ = true;
-        y_ = sheet_.height - sheet_.margin;
-        content_ = "BT\n";
+        stronaOtwarta = true;
+        wiersz = arkusz.height - arkusz.margin;
+        trescStrony = "BT\n";
     }
     void line(const core::PrintLine& l) override {
-        double size = l.size * sheet_.scale;
-        y_ -= size * kLineHeight;
-        content_ += (l.bold ? "/F2 " : "/F1 ") + num(size) + " Tf 1 0 0 1 " + num(sheet_.margin) + " " + num(y_) +
+        double size = l.size * arkusz.scale;
+        wiersz -= size * kLineHeight;
+        trescStrony += (l.bold ? "/F2 " : "/F1 ") + num(size) + " Tf 1 0 0 1 " + num(arkusz.margin) + " " + num(wiersz) +
                     " Tm " + pdfString(l.text) + " Tj\n";
     }
     void endPage() {
-        if (!open_) return;
-        open_ = false;
-        content_ += "ET\n";
+        if (!stronaOtwarta) return;
+        stronaOtwarta = false;
+        trescStrony += "ET\n";
         // The content is written as it stands, not copied into the object's text.
-        offsets_.push_back(out_.size());
-        out_.write(std::to_string(offsets_.size()) + " 0 obj\n<< /Length " + std::to_string(content_.size()) +
+        polozenia.push_back(wyjscie.size());
+        wyjscie.write(std::to_string(polozenia.size()) + " 0 obj\n<< /Length " + std::to_string(trescStrony.size()) +
                    " >>\nstream\n");
-        out_.write(content_);
-        out_.write("endstream\nendobj\n");
-        content_.clear();
-        content_.shrink_to_fit();
-        object("<< /Type /Page /Parent " + std::to_string(kPages) + " 0 R /MediaBox [0 0 " + num(sheet_.width) + " " +
-               num(sheet_.height) + "] /Resources << /Font << /F1 " + std::to_string(kRegular) + " 0 R /F2 " +
-               std::to_string(kBold) + " 0 R >> >> /Contents " + std::to_string(offsets_.size()) + " 0 R >>");
+        wyjscie.write(trescStrony);
+        wyjscie.write("endstream\nendobj\n");
+        trescStrony.clear();
+        trescStrony.shrink_to_fit();
+        object("<< /Type /Page /Parent " + std::to_string(kPages) + " 0 R /MediaBox [0 0 " + num(arkusz.width) + " " +
+               num(arkusz.height) + "] /Resources << /Font << /F1 " + std::to_string(kRegular) + " 0 R /F2 " +
+               std::to_string(kBold) + " 0 R >> >> /Contents " + std::to_string(polozenia.size()) + " 0 R >>");
     }
     void finish() {
         endPage();
         object("<< /Type /Catalog /Pages " + std::to_string(kPages) + " 0 R >>");
-        const std::uint64_t xref = out_.size();
-        const std::string count = std::to_string(offsets_.size() + 1);
-        out_.write("xref\n0 " + count + "\n0000000000 65535 f \n");
-        for (std::uint64_t off : offsets_) {
+        const std::uint64_t xref = wyjscie.size();
+        const std::string count = std::to_string(polozenia.size() + 1);
+        wyjscie.write("xref\n0 " + count + "\n0000000000 65535 f \n");
+        for (std::uint64_t off : polozenia) {
             char buf[32];
             std::snprintf(buf, sizeof buf, "%010llu 00000 n \n", static_cast<unsigned long long>(off));
-            out_.write(buf);
+            wyjscie.write(buf);
         }
-        out_.write("trailer\n<< /Size " + count + " /Root " + std::to_string(offsets_.size()) + " 0 R >>\nstartxref\n" +
+        wyjscie.write("trailer\n<< /Size " + count + " /Root " + std::to_string(polozenia.size()) + " 0 R >>\nstartxref\n" +
                    std::to_string(xref) + "\n%%EOF\n");
         // Bytes as they are: the text inside is already in the PDF's own encoding.
-        out_.commit();
+        wyjscie.commit();
     }
 
 private:
-    core::CommitStream out_;
-    Sheet sheet_;
-    std::vector<std::uint64_t> offsets_;
-    std::string content_;
-    double y_ = 0;
-    bool open_ = false;
+    core::CommitStream wyjscie;
+    Sheet arkusz;
+    std::vector<std::uint64_t> polozenia;
+    std::string trescStrony;
+    double wiersz = 0;
+    bool stronaOtwarta = false;
 };
 
 }  // namespace

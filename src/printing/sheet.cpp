@@ -7,9 +7,9 @@
 namespace printing {
 
 void SheetFit::line(const core::PrintLine& l) {
-    wide_ = std::max(wide_, static_cast<double>(core::Len(l.text)) * l.size * kCharWidth);
-    tall_ += l.size * kLineHeight;
-    tallest_ = std::max(tallest_, tall_);
+    najszerszy = std::max(najszerszy, static_cast<double>(core::Len(l.text)) * l.size * kCharWidth);
+    wysokoscStrony += l.size * kLineHeight;
+    najwyzszy = std::max(najwyzszy, wysokoscStrony);
 }
 
 Sheet SheetFit::sheet() const {
@@ -18,7 +18,7 @@ Sheet SheetFit::sheet() const {
     std::swap(landscape.width, landscape.height);
     for (Sheet* s : {&portrait, &landscape}) {
         double w = s->width - 2 * s->margin, h = s->height - 2 * s->margin;
-        s->scale = std::min({1.0, w / wide_, h / tallest_});
+        s->scale = std::min({1.0, w / najszerszy, h / najwyzszy});
     }
     return landscape.scale > portrait.scale ? landscape : portrait;
 }

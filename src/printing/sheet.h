@@ -22,12 +22,12 @@ constexpr double kLineHeight = 1.2;
 // The measures of pages taken line by line as they are printed.
 class SheetFit {
 public:
-    void beginPage() { tall_ = 0; }
+    void beginPage() { wysokoscStrony = 0; }
     void line(const core::PrintLine& l);
     Sheet sheet() const;
 
 private:
-    double wide_ = 1, tallest_ = 1, tall_ = 0;
+    double najszerszy = 1, najwyzszy = 1, wysokoscStrony = 0;
 };
 
 Sheet fitSheet(const std::vector<core::TextPrinter::Page>& pages);

@@ -36,46 +36,46 @@ void getText(std::FILE* f, std::string& s) {
 
 }  // namespace
 
-Spool::Spool() : file_(std::tmpfile()) {
-    if (!file_) throw core::Error(core::err::PathFileAccess, "wydruk", "nie można utworzyć pliku tymczasowego wydruku");
+Spool::Spool() : plikTymczasowy(std::tmpfile()) {
+    if (!plikTymczasowy) throw core::Error(core::err::PathFileAccess, "wydruk", "nie można utworzyć pliku tymczasowego wydruku");
 }
 
-Spool::~Spool() { std::fclose(file_); }
+Spool::~Spool() { std::fclose(plikTymczasowy); }
 
 void Spool::beginPage() {
-    put(file_, "P", 1);
-    ++pages_;
-    fit_.beginPage();
+    put(plikTymczasowy, "P", 1);
+    ++liczbaStron;
+    dopasowanie.beginPage();
 }
 
 void Spool::line(const core::PrintLine& l) {
     const unsigned char bold = l.bold ? 1 : 0;
-    put(file_, "L", 1);
-    put(file_, &bold, 1);
-    put(file_, &l.size, sizeof l.size);
-    putText(file_, l.font);
-    putText(file_, l.text);
-    fit_.line(l);
+    put(plikTymczasowy, "L", 1);
+    put(plikTymczasowy, &bold, 1);
+    put(plikTymczasowy, &l.size, sizeof l.size);
+    putText(plikTymczasowy, l.font);
+    putText(plikTymczasowy, l.text);
+    dopasowanie.line(l);
 }
 
 void Spool::replay(core::PageSink& to) const {
-    if (std::fflush(file_) != 0 || std::fseek(file_, 0, SEEK_SET) != 0)
+    if (std::fflush(plikTymczasowy) != 0 || std::fseek(plikTymczasowy, 0, SEEK_SET) != 0)
         throw core::Error(core::err::PathFileAccess, "wydruk", "błąd odczytu pliku tymczasowego wydruku");
     core::PrintLine l;
-    for (int c; (c = std::getc(file_)) != EOF;) {
+    for (int c; (c = std::getc(plikTymczasowy)) != EOF;) {
         if (c == 'P') {
             to.beginPage();
             continue;
         }
         unsigned char bold = 0;
-        get(file_, &bold, 1);
+        get(plikTymczasowy, &bold, 1);
         l.bold = bold != 0;
-        get(file_, &l.size, sizeof l.size);
-        getText(file_, l.font);
-        getText(file_, l.text);
+        get(plikTymczasowy, &l.size, sizeof l.size);
+        getText(plikTymczasowy, l.font);
+        getText(plikTymczasowy, l.text);
         to.line(l);
     }
-    std::fseek(file_, 0, SEEK_END);
+    std::fseek(plikTymczasowy, 0, SEEK_END);
 }
 
 std::vector<core::TextPrinter::Page> Spool::pages() const {
@@ -91,10 +91,10 @@ std::vector<core::TextPrinter::Page> Spool::pages() const {
 void Spool::clear() {
     std::FILE* f = std::tmpfile();
     if (!f) throw core::Error(core::err::PathFileAccess, "wydruk", "nie można utworzyć pliku tymczasowego wydruku");
-    std::fclose(file_);
-    file_ = f;
-    pages_ = 0;
-    fit_ = SheetFit{};
+    std::fclose(plikTymczasowy);
+    plikTymczasowy = f;
+    liczbaStron = 0;
+    dopasowanie = SheetFit{};
 }
 
 }  // namespace printing

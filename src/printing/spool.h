@@ -21,8 +21,8 @@ public:
     void beginPage() override;
     void line(const core::PrintLine& l) override;
 
-    int pageCount() const { return pages_; }
-    Sheet sheet() const { return fit_.sheet(); }
+    int pageCount() const { return liczbaStron; }
+    Sheet sheet() const { return dopasowanie.sheet(); }
     // Gives the pages in order to `to` (beginPage, then the page's lines), as often as asked.
     void replay(core::PageSink& to) const;
     // The pages as lines (for the tests and short prints).
@@ -31,9 +31,9 @@ public:
     void clear();
 
 private:
-    std::FILE* file_;
-    int pages_ = 0;
-    SheetFit fit_;
+    std::FILE* plikTymczasowy;
+    int liczbaStron = 0;
+    SheetFit dopasowanie;
 };
 
 }  // namespace printing
