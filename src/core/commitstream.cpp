@@ -20,7 +20,8 @@ namespace {
 
 constexpr std::size_t kBufor = 1 << 16;
 
-// The names of commitBytes: ".~<target>.<process>.<random>".
+// ".~<target>.<process>.<random>": never a name the data can hold (a list or a payer); the
+// process in it tells a leftover of a killed run from the file of a run still going on.
 std::string tempPrefix(const fs::path& target) { return ".~" + target.filename().string() + "."; }
 
 // Removes what killed writes of `target` left behind (their process is gone).

@@ -1,8 +1,8 @@
-// A file written piece by piece and put in place safely at the end, for outputs too large to
-// be held whole (a long print as text or PDF): the bytes go to a fresh temporary file beside
-// the target, named as commitBytes names its own (so a leftover of a killed run is removed by
-// the next rewrite of the target), and only commit() renames it over the target. Dropped
-// without commit(), it leaves the target as it was.
+// The one safe rewrite of a file, whole (commitBytes) or piece by piece (a ledger, a long print
+// as text or PDF): the bytes go to a fresh temporary file beside the target, named
+// ".~<target>.<process>.<random>" (created exclusively, never following a link; a leftover of
+// a killed run is removed by the next rewrite of the target), and only commit() syncs it and
+// renames it over the target. Dropped without commit(), it leaves the target as it was.
 #pragma once
 #include <cstdint>
 #include <filesystem>

@@ -12,6 +12,7 @@
 #include <random>
 #include <utility>
 
+#include "core/commitstream.h"
 #include "core/error.h"
 #include "core/text.h"
 
@@ -237,25 +238,12 @@ std::string SeqReader::line() {
 
 // --- Writing ----------------------------------------------------------------------------------
 
-namespace {
-
-// The steps of a safe rewrite (see commitFile): a fresh temporary file beside the target, the
-// bytes into it, then synced and renamed over the target.
-struct Rewrite {
-    fs::path target, folder, temp;
-    int fd = -1;
-    explicit Rewrite(const fs::path& t);
-    void write(std::string_view bytes);
-    void finish();
-    void abandon() noexcept;
-    [[noreturn]] void fail(const char* what);
-};
-
-}  // namespace
-
+// The file a writer passes its parts to: a fresh temporary file beside the target, renamed over
+// it by commit(); dropped without commit() it leaves the target as it was.
 struct SeqWriter::File {
-    Rewrite rewrite;
-    explicit File(const fs::path& target) : rewrite(target) {}
+    fs::path target;
+    CommitStream out;
+    explicit File(const fs::path& t) : target(t), out(t) {}
 };
 
 SeqWriter::SeqWriter() = default;
@@ -271,7 +259,6 @@ SeqWriter::SeqWriter(SeqWriter&& o) noexcept
 
 SeqWriter& SeqWriter::operator=(SeqWriter&& o) noexcept {
     if (this != &o) {
-        if (file_) file_->rewrite.abandon();
         buf_ = std::move(o.buf_);
         spilled_ = o.spilled_;
         file_ = std::move(o.file_);
@@ -279,15 +266,13 @@ SeqWriter& SeqWriter::operator=(SeqWriter&& o) noexcept {
     return *this;
 }
 
-SeqWriter::~SeqWriter() {
-    if (file_) file_->rewrite.abandon();
-}
+SeqWriter::~SeqWriter() = default;
 
 // A writer into a file passes on what it holds once it holds a part; every write is whole in
 // it, so no character is ever cut.
 void SeqWriter::spill(bool all) {
     if (!file_ || buf_.empty() || (!all && buf_.size() < kPart)) return;
-    file_->rewrite.write(toCp1250(buf_, file_->rewrite.target.string()));
+    file_->out.write(toCp1250(buf_, file_->target.string()));
     buf_.clear();
     spilled_ = true;
 }
@@ -331,7 +316,7 @@ void SeqWriter::print(std::string_view line) {
 void SeqWriter::commit() {
     if (!file_) return;
     spill(true);
-    file_->rewrite.finish();
+    file_->out.commit();
     file_.reset();
 }
 
@@ -339,115 +324,10 @@ void commitFile(const fs::path& target, const std::string& utf8, const std::stri
     commitBytes(target, toCp1250(utf8, target.string()), tempName);
 }
 
-// A temporary file of a rewrite is named ".~<target>.<process>.<random>": never a name the data
-// can hold (a list or a payer), never one that exists (it is created exclusively, without
-// following a link), and the process in its name tells a leftover of a killed run from the
-// file of a run still going on.
-static std::string tempPrefix(const fs::path& target) { return ".~" + target.filename().string() + "."; }
-
-static bool processAlive(long pid) { return pid > 0 && (::kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM); }
-
-// Removes the temporary files that killed rewrites of `target` left behind. Only our own names
-// are looked at; a link is removed as a link, never followed.
-static void removeLeftovers(const fs::path& folder, const fs::path& target) {
-    const std::string prefix = tempPrefix(target);
-    std::error_code ec;
-    for (const auto& e : fs::directory_iterator(folder, ec)) {
-        const std::string name = e.path().filename().string();
-        if (name.rfind(prefix, 0) != 0) continue;
-        const std::string rest = name.substr(prefix.size());
-        const std::size_t dot = rest.find('.');
-        if (dot == 0 || dot == std::string::npos || rest.find_first_not_of("0123456789") != dot) continue;
-        if (processAlive(std::strtol(rest.c_str(), nullptr, 10))) continue;
-        std::error_code rm;
-        fs::remove(e.path(), rm);
-    }
-}
-
-// Creates a fresh temporary file beside `target`; its descriptor, its name in `temp`.
-static int createTemp(const fs::path& folder, const fs::path& target, fs::path& temp) {
-    static const char digits[] = "0123456789abcdefghijklmnopqrstuvwxyz";
-    std::random_device rd;
-    for (int attempt = 0; attempt < 100; ++attempt) {
-        std::string name = tempPrefix(target) + std::to_string(::getpid()) + ".";
-        for (int i = 0; i < 8; ++i) name += digits[rd() % 36];
-        temp = folder / name;
-        int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
-        if (fd >= 0 || errno != EEXIST) return fd;
-    }
-    errno = EEXIST;
-    return -1;
-}
-
-namespace {
-
-Rewrite::Rewrite(const fs::path& t) : target(t), folder(t.parent_path()) {
-    if (folder.empty()) folder = ".";
-    std::error_code ec;
-    if (!fs::is_directory(folder, ec))
-        throw Error(err::PathNotFound, target.string(), "brak folderu " + folder.string());
-    removeLeftovers(folder, target);
-    fd = createTemp(folder, target, temp);
-    if (fd < 0)
-        throw Error(err::PathFileAccess, target.string(),
-                    "nie można zapisać w folderze " + folder.string() + " (" + std::strerror(errno) + ")");
-}
-
-void Rewrite::fail(const char* what) {
-    const int e = errno;
-    abandon();
-    throw Error(err::PathFileAccess, target.string(), std::string(what) + " " + temp.string() + " (" + std::strerror(e) + ")");
-}
-
-void Rewrite::abandon() noexcept {
-    if (fd < 0) return;
-    ::close(fd);
-    fd = -1;
-    std::error_code ec;
-    fs::remove(temp, ec);
-}
-
-void Rewrite::write(std::string_view bytes) {
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        ssize_t w = ::write(fd, bytes.data() + done, bytes.size() - done);
-        if (w < 0) {
-            if (errno == EINTR) continue;
-            fail("błąd zapisu pliku");
-        }
-        done += static_cast<std::size_t>(w);
-    }
-}
-
-void Rewrite::finish() {
-    if (::fsync(fd) != 0) fail("błąd zapisu pliku");
-    std::error_code ec;
-    const int closed = ::close(fd);
-    fd = -1;
-    if (closed != 0) {
-        int e = errno;
-        fs::remove(temp, ec);
-        throw Error(err::PathFileAccess, target.string(), "błąd zapisu pliku (" + std::string(std::strerror(e)) + ")");
-    }
-    if (::rename(temp.c_str(), target.c_str()) != 0) {
-        int e = errno;
-        fs::remove(temp, ec);
-        throw Error(err::PathFileAccess, target.string(),
-                    "nie można zastąpić pliku " + target.string() + " (" + std::strerror(e) + ")");
-    }
-    int dfd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (dfd >= 0) {
-        ::fsync(dfd);
-        ::close(dfd);
-    }
-}
-
-}  // namespace
-
 void commitBytes(const fs::path& target, const std::string& bytes, const std::string& /*tempName*/) {
-    Rewrite r(target);
-    r.write(bytes);
-    r.finish();
+    CommitStream out(target);
+    out.write(bytes);
+    out.commit();
 }
 
 }  // namespace core
