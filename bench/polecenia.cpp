@@ -52,7 +52,13 @@ int main(int argc, char** argv) {
             tmp = fs::absolute(argv[++i]);
             zostaw = true;
         } else {
-            rozmiary.push_back(std::atoi(argv[i]));
+            const int n = std::atoi(argv[i]);
+            if (n <= 0) {
+                std::cerr << "Użycie: pensja-bench-cli [LICZBA_OSÓB ...] [--dane FOLDER]\n"
+                             "  bez liczby: listy 2500 i 25000 osób; --dane zostawia dane w FOLDERZE\n";
+                return 2;
+            }
+            rozmiary.push_back(n);
         }
     }
     if (rozmiary.empty()) rozmiary = {2500, 25000};
