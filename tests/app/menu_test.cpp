@@ -105,7 +105,7 @@ TEST(MenuUtilities, PrinterKind) {
         EXPECT_EQ(p.ui.boxes[1].text, "Podaj rodzaj przyłączonej drukarki        A=atramentowa,I=igłowa,L=laserowa");
         EXPECT_EQ(p.ui.boxes[1].title, " Aktualnie przyłączona = Laserowa");
         EXPECT_EQ(p.ui.boxes.size(), c.box.empty() ? 2u : 3u);
-        if (!c.box.empty()) EXPECT_EQ(p.ui.boxes.back().title, c.box);
+        if (!c.box.empty()) { EXPECT_EQ(p.ui.boxes.back().title, c.box); }
         EXPECT_EQ(p.instalka(), std::string("\"demo\",\".\",\"DEMO\",\"") + c.stored + "\",,\"A\",,\"31-01-2021\"\r\n");
     }
 }
@@ -126,7 +126,7 @@ TEST(MenuUtilities, BackupCopiesTheWholeDataFolder) {
     for (const auto& e : fs::recursive_directory_iterator(p.d.dir.path())) {
         std::string rel = fs::relative(e.path(), p.d.dir.path()).string();
         want.insert(rel);
-        if (e.is_regular_file()) EXPECT_EQ(readBytes(target / rel), readBytes(e.path())) << rel;
+        if (e.is_regular_file()) { EXPECT_EQ(readBytes(target / rel), readBytes(e.path())) << rel; }
     }
     for (const auto& e : fs::recursive_directory_iterator(target)) got.insert(fs::relative(e.path(), target).string());
     EXPECT_EQ(got, want);
@@ -243,9 +243,9 @@ TEST(MenuUtilities, SystemDateAndTime) {
         const std::string title = c.date ? "Zmiana daty systemowej" : "Zmiana czasu systemowego";
         ASSERT_EQ(p.ui.boxes.size(), c.outcome == '-' ? 1u : 2u) << c.what;
         for (const auto& b : p.ui.boxes) EXPECT_EQ(b.title, title) << c.what;
-        if (c.outcome != '-')
-            EXPECT_EQ(p.ui.boxes.back().icon, c.outcome == 'i' ? core::Icon::Information : core::Icon::Exclamation)
-                << c.what;
+        if (c.outcome != '-') {
+            EXPECT_EQ(p.ui.boxes.back().icon, c.outcome == 'i' ? core::Icon::Information : core::Icon::Exclamation) << c.what;
+        }
         if (c.clock.empty()) {
             EXPECT_TRUE(p.clock.empty()) << c.what;
         } else {

@@ -144,7 +144,9 @@ TEST(HomeNet, DoubtfulAccountsGetTheBoxAndAreStillWritten) {
         ASSERT_GE(ramki.size(), 2u) << p.nazwa;
         EXPECT_EQ(std::vector<std::string>(ramki.begin() + 1, ramki.end() - 1), p.ramki) << p.nazwa;
         EXPECT_EQ(plik.has_value(), p.platnik.find(',') == std::string::npos) << p.nazwa;
-        if (plik) EXPECT_EQ(testing_support::readLines(d.s.payerPath({"HOMENET", "ROR102020210131.txt"})).size(), 1u);
+        if (plik) {
+            EXPECT_EQ(testing_support::readLines(d.s.payerPath({"HOMENET", "ROR102020210131.txt"})).size(), 1u);
+        }
     }
 }
 

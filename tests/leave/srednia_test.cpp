@@ -72,7 +72,7 @@ TEST(Average, MonthsCountedSwitchedOffAndMissing) {
         EXPECT_EQ(t.f.lbSredniaZ.Caption, "Średnia dzienna z " + c.miesiecy + " miesiecy");
         ASSERT_EQ(t.f.MSFlexGrid7.Rows, 13);
         // The seniority allowance taken off, and the cell left for the month without a ledger.
-        if (c.brak) EXPECT_EQ(t.kom(4, KolS::Placa), "2800.00");
+        if (c.brak) { EXPECT_EQ(t.kom(4, KolS::Placa), "2800.00"); }
         if (c.indeks >= 0) {
             EXPECT_EQ(t.kom(c.indeks + 1, KolS::Informacja), c.info);
             EXPECT_EQ(t.kom(c.indeks + 1, KolS::Okres), t.okresy[c.indeks]);

@@ -224,7 +224,7 @@ TEST(Frame, SecondRunReplacesInPlaceKeepingTheOtherRecordsAndKeptFields) {
     const std::vector<std::string> po = linie(bajty(file));
     ASSERT_EQ(po.size(), przed.size());
     for (std::size_t i = 0; i < po.size(); ++i)
-        if (i != 1) EXPECT_EQ(po[i], przed[i]) << i;
+        if (i != 1) { EXPECT_EQ(po[i], przed[i]) << i; }
     const Record r = readAll(file)[1];
     EXPECT_EQ(r.s(KwotaBrutto), "2000");
     EXPECT_EQ(r.item(Rezerwa24).text, "k24");

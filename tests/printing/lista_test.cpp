@@ -202,7 +202,7 @@ TEST(Lista, BoxesOfThePrinterAndOfAMissingLedger) {
         EXPECT_EQ(d.s.TrybDruku, 0);
         EXPECT_EQ(core::fileExists(S::path(d.s)), c.dokumenty == 1);
         for (const auto& b : d.ui.boxes)
-            if (b.title.empty()) EXPECT_EQ(b.icon, core::Icon::Exclamation);
+            if (b.title.empty()) { EXPECT_EQ(b.icon, core::Icon::Exclamation); }
     }
 }
 

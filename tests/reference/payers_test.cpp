@@ -146,7 +146,7 @@ TEST(PayerRegister, ShortNamesThatCannotBeFoldersAreRefusedBeforeAnythingIsMade)
         f.Load();
         f.cmdDodaj_Click();
         ASSERT_EQ(ui.boxes.size(), typed ? 2u : 1u);
-        if (typed) EXPECT_EQ(ui.boxes.back().title, "Błędny skrót Płatnika");
+        if (typed) { EXPECT_EQ(ui.boxes.back().title, "Błędny skrót Płatnika"); }
         EXPECT_EQ(readBytes(Firma::path(d.s)), register_);
         EXPECT_EQ(entries(d.dir.path()), before);
         EXPECT_FALSE(fs::exists(d.dir.path().parent_path() / "INNA"));

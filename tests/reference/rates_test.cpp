@@ -107,7 +107,7 @@ TEST(Podatki, SavingAYearLeavesTheOtherYearsByteIdentical) {
     ASSERT_EQ(a.size(), b.size());
     for (std::size_t i = 0; i < a.size(); ++i) {
         bool in2015 = i >= 6 * 38 && i < 7 * 38;
-        if (!in2015) EXPECT_EQ(a[i], b[i]) << "line " << i + 1;
+        if (!in2015) { EXPECT_EQ(a[i], b[i]) << "line " << i + 1; }
     }
     EXPECT_EQ(b[6 * 38 + D::UbWypad - 1], "\"1.80\"\r");       // a variant takes the typed text
     EXPECT_EQ(b[6 * 38 + D::MInBRUTTO - 1], "1750.5\r");      // a float is stored as a number

@@ -125,8 +125,9 @@ TEST(Pit11, EveryBoxGoesToItsOwnFieldAndComesBack) {
     EXPECT_EQ(d.ui.last(), "[] Pobrane !");
     // The total of income is worked out on saving; every other box is kept as typed.
     for (std::size_t i = 0; i < drugi.boxes.size(); ++i)
-        if (drugi.boxes.def(i).field != P::RazemRazem)
+        if (drugi.boxes.def(i).field != P::RazemRazem) {
             EXPECT_DOUBLE_EQ(tax::liczba(drugi.boxes.box(i).Text), static_cast<double>(i) + 1.5) << drugi.boxes.box(i).Name;
+        }
     EXPECT_EQ(drugi.txtKosztyU.Text, "4");
     EXPECT_EQ(drugi.Option1.Value, 1);
 }
